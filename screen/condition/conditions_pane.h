@@ -1,0 +1,36 @@
+// Condition grid, expression box and parameter panel together, as the condition editor sees them.
+#pragma once
+
+#include "screen/condition/bbox_panel_pane.h"
+#include "screen/condition/condition_editor.h"
+#include "screen/condition/condition_grid_view.h"
+#include "screen/expression/expression_edit.h"
+
+namespace jogeon {
+
+class ConditionsPane : public ConditionView {
+public:
+    // The three windows belong to the screen and outlive this object.
+    ConditionsPane(ConditionGrid& grid, ExpressionEdit& expression, BBoxPanel& panel)
+        : grid_(grid), expression_(expression), panel_(panel) {}
+
+    void FillConditionGrid(const std::vector<std::unique_ptr<CIndexInfo>>& conditions) override {
+        grid_.Fill(conditions);
+    }
+    void FocusRow(int row) override { grid_.FocusRow(row); }
+    void ClearSequenceMarks() override { grid_.ClearMarks(); }
+    std::string ExpressionText() const override { return expression_.ExpressionText(); }
+    void SetExpressionText(const std::string& text) override { expression_.SetExpressionText(text); }
+    void ShowCondition(const CIndexInfo& condition, bool shown) override {
+        panel_.ShowIndex(condition);
+        panel_.setVisible(shown);
+    }
+    void HidePanel() override { panel_.hide(); }
+
+private:
+    ConditionGrid& grid_;
+    ExpressionEdit& expression_;
+    BBoxPanel& panel_;
+};
+
+}  // namespace jogeon
