@@ -1,0 +1,17 @@
+// Tells the user that an expression is wrong, with a hand at the place where it failed.
+#pragma once
+
+#include <QDialog>
+#include <string>
+
+namespace jogeon {
+
+class ExpressionErrorDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    // `marked` is the expression with the hand in it, CP949.
+    explicit ExpressionErrorDialog(const std::string& marked);
+};
+
+}  // namespace jogeon

@@ -1,0 +1,116 @@
+#include "screen/expression/expression_text.h"
+
+#include <utility>
+
+#include <gtest/gtest.h>
+
+namespace jogeon {
+namespace {
+
+TEST(ExpressionTextTest, ConvertsBetweenTheForms) {
+    const std::pair<const char*, const char*> compact[] = {
+        {"A and (B or !C)", "A&(B|!C)"},
+        {"a AND b Or c", "A&B|C"},
+        {"A&B | c", "A&B|C"},
+        {"not A", "!A"},
+        {"A and Not(B)", "A&!(B)"},
+        {"(not not a)", "(!!A)"},
+        {"!NOT A", "!!A"},
+        {"A and N", "A&N"},
+        {"KNOT", "KNOT"},  // no words: the check refuses these texts
+        {"NOTA", "NOTA"},
+        {"NOT_", "NOT_"},
+        {"1NOT A", "1NOTA"},
+        {"", ""},
+    };
+    for (const auto& [display, expected] : compact) {
+        EXPECT_EQ(expected, ToCompactForm(display)) << display;
+        EXPECT_EQ(expected, ToCompactForm(ToDisplayForm(expected))) << expected;
+    }
+    EXPECT_EQ("A and (B or !C)", ToDisplayForm("A&(B|!C)"));
+    EXPECT_EQ(" and ", ToDisplayForm("&"));
+}
+
+// An accepted text still is one in its compact form, as nothing of it is lost.
+TEST(ExpressionTextTest, TheCompactFormIsAcceptedWhereTheDisplayFormIs) {
+    for (const char* text : {"not A", "A and not B or NOT(C)", "!not(A and B)", "A or(not B)"}) {
+        EXPECT_TRUE(CheckExpressionText(text).valid) << text;
+        EXPECT_TRUE(CheckExpressionText(ToCompactForm(text)).valid) << text;
+    }
+}
+
+TEST(ExpressionTextTest, TellsWholeBracketsFromPairsAtBothEnds) {
+    for (const char* text : {"(A)", "(A&B)", "((A)&(B))", "()"}) EXPECT_TRUE(IsWhollyBracketed(text)) << text;
+    for (const char* text : {"", "A", "(", ")", "(A)&(B)", "((A)", "(A)B", "!(A)", "A)", "(A))"}) {
+        EXPECT_FALSE(IsWhollyBracketed(text)) << text;
+    }
+}
+
+TEST(ExpressionTextTest, RemovesABracketWithItsPartner) {
+    struct Case {
+        const char* text;
+        int index;
+        const char* result;
+    };
+    const Case fromClose[] = {
+        {"A&(B|C)", 6, "A&B|C"},
+        {"!(A)", 3, "A"},
+        {"(A&(B|C))", 8, "A&(B|C)"},
+        {"!((A)&B)", 4, "!(A&B)"},
+        {"A&B)", 3, "&B"},
+        {")A", 0, "A"},
+        {"A", 5, "A"},
+        {"A", -1, "A"},
+    };
+    for (const Case& each : fromClose) EXPECT_EQ(each.result, RemoveBracketFromClose(each.text, each.index));
+    const Case fromOpen[] = {
+        {"A&(B|C)", 2, "A&B|C"}, {"!(A)", 1, "!A"}, {"(A&(B|C))", 0, "A&(B|C)"},
+        {"((A)&B)", 1, "(A&B)"}, {"A&(B", 2, "&B"}, {"(A", 0, "A"},
+        {"A", 5, "A"},           {"A", -1, "A"},
+    };
+    for (const Case& each : fromOpen) EXPECT_EQ(each.result, RemoveBracketFromOpen(each.text, each.index));
+}
+
+TEST(ExpressionTextTest, RemovesALetter) {
+    struct Case {
+        const char* text;
+        char letter;
+        const char* result;
+        bool negated;
+    };
+    const Case cases[] = {
+        {"A&B|C", 'X', "A&B|C", false},
+        {"A", 'A', "", false},
+        {"A&B|C", 'A', "B|C", false},
+        {"A&B|C", 'B', "A|C", false},
+        {"A&B|C", 'C', "A&B", false},
+        {"(A&B)|C", 'A', "B|C", false},
+        {"!(A&B)|C", 'A', "B|C", false},
+        {"(A&B)|C", 'B', "A|C", false},
+        {"C|(A&B)", 'B', "C|A", false},
+        {"(A)", 'A', "", false},
+        {"!(A)", 'A', "", false},
+        {"C&!(A)", 'A', "C", false},
+        {"!A", 'A', "", true},
+        {"!A&B", 'A', "B", true},
+        {"B&!A", 'A', "B", true},
+        {"B&!A|C", 'A', "B|C", true},
+        {"(!A&B)|C", 'A', "B|C", true},
+        {"C|!(!A&B)", 'A', "C|B", true},
+        {"(!A)&B", 'A', "B", true},
+        {"AB", 'B', "AB", false},
+        // Brackets that someone left open.
+        {"(A&B", 'A', "B", false},
+        {"A)", 'A', "", false},
+        {"C&(A|B", 'A', "&B", false},
+    };
+    for (const Case& each : cases) {
+        std::string text = each.text;
+        EXPECT_EQ(each.negated, RemoveLetter(text, each.letter)) << each.text;
+        EXPECT_EQ(each.result, text) << each.text;
+        EXPECT_EQ(each.result, RemoveLetterFromExpression(each.text, each.letter));
+    }
+}
+
+}  // namespace
+}  // namespace jogeon
