@@ -1,0 +1,123 @@
+#include "screen/transactions/search_request.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "screen/condition/index_info.h"
+#include "screen/expression/expression_text.h"
+#include "screen/text/bytes.h"
+#include "screen/text/cp949.h"
+#include "screen/transactions/condition_block.h"
+#include "screen/transactions/packet_writer.h"
+
+namespace jogeon {
+namespace {
+
+constexpr std::size_t kUserIdWidth = 8;
+constexpr std::size_t kHandleWidth = 2;
+constexpr std::size_t kFidWidth = 4;
+constexpr std::size_t kCodeWidth = 12;
+
+bool NeedsPrior(SearchScope scope) {
+    return scope == SearchScope::Within || scope == SearchScope::Outside;
+}
+
+char ScopeCharacter(SearchScope scope) {
+    return NeedsPrior(scope) ? static_cast<char>('0' + static_cast<int>(scope)) : '0';
+}
+
+void PutWindow(PacketWriter& writer, host::WindowHandle window) {
+    // No "%0.8x": the precision alone gives the eight digits, and the flag beside it is refused by compilers.
+    writer.PutFormat("%.8x", static_cast<unsigned>(window));
+}
+
+void PutWhole(PacketWriter& writer, const std::string& bytes) {
+    writer.PutBytes(bytes.data(), bytes.size());
+}
+
+void PutPrior(PacketWriter& writer, const PriorResult& prior) {
+    writer.PutFormat("%04d", prior.received);
+    for (const std::string& code : prior.codes) writer.PutField(code, kCodeWidth);
+}
+
+}  // namespace
+
+std::optional<std::string> CompactExpression(std::string_view text,
+                                             const std::function<bool(const std::string&)>& check,
+                                             host::Questions& questions) {
+    const std::string trimmed(Trim(text));
+    if (!check(trimmed)) return std::nullopt;
+    std::string compact = ToCompactForm(trimmed);
+    if (compact.size() <= kMaxExpressionBytes) return compact;
+
+    std::string box = "조건식이 너무 깁니다.\n\n공백을 빼고 "_cp949;
+    box += Decimal(static_cast<int>(kMaxExpressionBytes));
+    box += "자까지 쓸 수 있고, 지금은 "_cp949 + Decimal(static_cast<int>(compact.size()));
+    box += "자입니다."_cp949;
+    questions.Ask({box, "조건검색"_cp949, host::Icon::Information, host::Buttons::Ok});
+    return std::nullopt;
+}
+
+std::vector<const CIndexInfo*> CheckedConditions(const std::vector<const CIndexInfo*>& conditions) {
+    std::vector<const CIndexInfo*> checked;
+    std::copy_if(conditions.begin(), conditions.end(), std::back_inserter(checked),
+                 [](const CIndexInfo* condition) { return condition->m_bChecked != 0; });
+    return checked;
+}
+
+std::string ComposeConditionSet(const HeaderSource& header, std::string_view expression, int count,
+                                const std::vector<const CIndexInfo*>& blocks) {
+    std::string bytes = BuildConditionHeader(header, expression, count);
+    for (const CIndexInfo* condition : blocks) bytes += BuildConditionBlock(*condition);
+    return bytes;
+}
+
+std::string ComposeFidList(const std::vector<std::string>& fids) {
+    std::string list = ZeroPadded(static_cast<int>(fids.size()), 4);
+    for (const std::string& fid : fids) list += RightIn(fid, kFidWidth);
+    return list;
+}
+
+std::optional<std::string> ComposeSearch(const SearchInputs& inputs, ColumnTables& columns,
+                                         host::Questions& questions) {
+    if (inputs.conditions.empty()) return std::nullopt;
+    if (NeedsPrior(inputs.scope) && !inputs.prior) return std::nullopt;
+    const auto expression = CompactExpression(inputs.expressionText, inputs.checkExpression, questions);
+    if (!expression) return std::nullopt;
+    const auto checked = CheckedConditions(inputs.conditions);
+    if (checked.empty()) return std::nullopt;
+
+    columns.UpdateSequenceStart();
+    PacketWriter writer(kPayloadBlockHint);
+    writer.PutChar('T');
+    PutWindow(writer, inputs.window);
+    writer.PutChar(ScopeCharacter(inputs.scope));
+    PutWhole(writer,
+             ComposeConditionSet(inputs.header, *expression, static_cast<int>(checked.size()), checked));
+    PutWhole(writer, ComposeFidList(SelectedFids(columns)));
+    if (NeedsPrior(inputs.scope)) PutPrior(writer, *inputs.prior);
+    return writer.Detach();
+}
+
+std::string ComposeNextPage(host::WindowHandle window, std::string_view userId, int resultHandle,
+                            int received) {
+    PacketWriter writer(kPayloadBlockHint);
+    writer.PutChar('N');
+    PutWindow(writer, window);
+    writer.PutField(userId, kUserIdWidth);
+    writer.PutFormat("%02d", resultHandle);
+    writer.PutFormat("%04d", received);
+    return writer.Detach();
+}
+
+std::string ComposeRelease(host::WindowHandle window, std::string_view userId,
+                           std::string_view searchHandle) {
+    PacketWriter writer(kPayloadBlockHint);
+    writer.PutChar('Z');
+    PutWindow(writer, window);
+    writer.PutField(userId, kUserIdWidth);
+    writer.PutField(searchHandle, kHandleWidth);
+    return writer.Detach();
+}
+
+}  // namespace jogeon
