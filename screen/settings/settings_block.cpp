@@ -1,0 +1,32 @@
+#include "screen/settings/settings_block.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace jogeon {
+namespace {
+
+void Put(std::byte* block, std::size_t offset, std::int32_t value) {
+    std::memcpy(block + offset, &value, sizeof value);
+}
+
+std::int32_t Get(const std::byte* block, std::size_t offset) {
+    std::int32_t value = 0;
+    std::memcpy(&value, block + offset, sizeof value);
+    return value;
+}
+
+}  // namespace
+
+void FillSettingsBlock(const ScreenSettings& settings, std::byte* block) {
+    Put(block, settings_block::kAlwaysOne, 1);
+    Put(block, settings_block::kRegLink, settings.regLink);
+    Put(block, settings_block::kConfirmOverwrite, settings.confirmOverwrite);
+}
+
+void TakeSettingsBlock(const std::byte* block, ScreenSettings& settings) {
+    settings.regLink = Get(block, settings_block::kRegLink);
+    settings.confirmOverwrite = Get(block, settings_block::kConfirmOverwrite);
+}
+
+}  // namespace jogeon
