@@ -1,0 +1,82 @@
+#include "screen/results/result_cell_qt.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "screen/palette/colors_qt.h"
+#include "screen/results/result_model_qt.h"
+
+namespace jogeon {
+namespace {
+
+constexpr int kMargin = 4;  // pixels between the cell's edge and its text
+
+QRect TextRect(const QRect& cell) {
+    return cell.adjusted(kMargin, 0, -kMargin - 1, -1);
+}
+
+int HorizontalFlag(Placing placing) {
+    switch (placing) {
+        case Placing::Left:
+            return Qt::AlignLeft;
+        case Placing::Centre:
+            return Qt::AlignHCenter;
+        case Placing::Right:
+            return Qt::AlignRight;
+    }
+    return Qt::AlignLeft;
+}
+
+bool Fits(const QStyleOptionViewItem& option, const QString& text) {
+    return option.fontMetrics.horizontalAdvance(text) <= TextRect(option.rect).width();
+}
+
+}  // namespace
+
+ResultCellDelegate::ResultCellDelegate(const ResultModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), model_(model) {}
+
+void ResultCellDelegate::SetRowColors(ColorNumber odd, ColorNumber even) {
+    odd_ = odd;
+    even_ = even;
+}
+
+void ResultCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+    painter->fillRect(option.rect, BackOf(option, index.row()));
+    if (lines_) PaintLines(*painter, option.rect);
+    QString text = model_.Shown(index.row(), index.column());
+    if (text.isEmpty()) return;
+    const QRect rect = TextRect(option.rect);
+    // A number that is cut without a sign of it would be read as another number.
+    if (!Fits(option, text)) text = option.fontMetrics.elidedText(text, Qt::ElideRight, rect.width());
+    painter->setFont(option.font);
+    painter->setPen(ToQColor(model_.TextColor(index.row(), index.column())));
+    painter->drawText(rect, HorizontalFlag(model_.PlacingOfColumn(index.column())) | Qt::AlignVCenter, text);
+}
+
+bool ResultCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip || !index.isValid()) {
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const QString text = model_.Shown(index.row(), index.column());
+    QToolTip::showText(event->globalPos(), Fits(option, text) ? QString() : text, view->viewport(),
+                       option.rect);
+    return true;
+}
+
+QColor ResultCellDelegate::BackOf(const QStyleOptionViewItem& option, int row) const {
+    if (option.state & QStyle::State_Selected) return ToQColor(Color::GridSelectedRow);
+    const bool odd = row % 2 == 0;  // counted from 1, as a reader does
+    const ColorNumber chosen = odd ? odd_ : even_;
+    return chosen != 0 ? ToQColor(chosen) : ToQColor(odd ? Color::GridOddRow : Color::GridEvenRow);
+}
+
+void ResultCellDelegate::PaintLines(QPainter& painter, const QRect& rect) const {
+    painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, ToQColor(Color::GridLine));
+    painter.fillRect(rect.right(), rect.top(), 1, rect.height(), ToQColor(Color::GridLine));
+}
+
+}  // namespace jogeon

@@ -1,0 +1,290 @@
+#include "screen/results/result_grid_view.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "screen/palette/colors_qt.h"
+#include "screen/results/result_cell_qt.h"
+#include "screen/results/result_model_qt.h"
+#include "screen/transactions/result_columns.h"
+
+namespace jogeon {
+namespace {
+
+constexpr int kFirstRow = 2;    // grid row of the first result row
+constexpr int kRowPadding = 5;  // pixels of a row beyond its text's height
+constexpr int kHeaderPadding = 8;
+constexpr int kMinNameWidth = 64;  // pixels; a stock's name stays readable
+
+QString HeaderStyle() {
+    return QStringLiteral(
+               "QHeaderView { background: %1; border: none; }"
+               "QHeaderView::section { background: %1; color: %2; border: none; padding: 0 3px;"
+               " border-right: 1px solid %3; border-bottom: 1px solid %3; }")
+        .arg(ToQColor(Color::GridHeaderBack).name(), ToQColor(Color::GridHeaderText).name(),
+             ToQColor(Color::GridHeaderLine).name());
+}
+
+}  // namespace
+
+ResultGrid::ResultGrid(host::CodeLists& lists, QWidget* parent)
+    : PinnedColumnView(parent),
+      model_(new ResultModel(lists, this)),
+      delegate_(new ResultCellDelegate(*model_, this)) {
+    setModel(model_);
+    setItemDelegate(delegate_);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // columns don't jump when a page fills the grid
+    setShowGrid(false);                                 // the cells paint their own lines
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    SetUpHeaders();
+    RefreshColors();
+    connect(this, &QTableView::clicked, this,
+            [this](const QModelIndex& at) { emit RowClicked(at.row() + kFirstRow, at.column() + 1); });
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& at) { emit RowDoubleClicked(at.row() + kFirstRow, at.column() + 1); });
+}
+
+void ResultGrid::SetUpHeaders() {
+    QHeaderView& rows = *verticalHeader();
+    rows.setVisible(false);
+    rows.setSectionResizeMode(QHeaderView::Fixed);  // thousands of rows, none of them measured
+    QHeaderView& columns = *horizontalHeader();
+    columns.setSectionsClickable(false);  // the order of rows is the server's
+    columns.setHighlightSections(false);
+    columns.setDefaultAlignment(Qt::AlignCenter);
+    columns.setTextElideMode(Qt::ElideRight);
+    columns.setMinimumSectionSize(kMinColumnWidth);
+    columns.setMaximumSectionSize(kMaxColumnWidth);
+    connect(&columns, &QHeaderView::sectionResized, this, &ResultGrid::OnColumnResized);
+    SetColumnSizing(false);
+    SetRowHeight();
+}
+
+void ResultGrid::SetRowHeight() {
+    const int text = fontMetrics().height();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(text + kRowPadding);
+    horizontalHeader()->setFixedHeight(text + kHeaderPadding);
+}
+
+// --- layout and columns
+
+void ResultGrid::ApplyLayout(const GridLayout& layout) {
+    const QScopedValueRollback applying(applying_, true);
+    model_->SetLayout(layout);
+    for (const GridColumn& column : layout) {
+        const int at = column.number - 1;
+        const int least = column.fid == kNameColumnFid ? kMinNameWidth : kMinColumnWidth;
+        setColumnWidth(at, std::max(column.width, least));
+        setColumnHidden(at, column.hidden);
+    }
+    SetPinnedColumn(model_->FindFid(kNameColumnFid));
+}
+
+const GridLayout& ResultGrid::Layout() const {
+    return model_->Layout();
+}
+
+bool ResultGrid::HasColumn(int column) const {
+    return column >= 1 && column <= GetColCount();
+}
+
+int ResultGrid::GetColCount() const {
+    return model_->columnCount();
+}
+
+bool ResultGrid::IsColHidden(int column) const {
+    return !HasColumn(column) || isColumnHidden(column - 1);
+}
+
+void ResultGrid::HideCols(int first, int last, bool hide) {
+    for (int column = std::max(first, 1); column <= std::min(last, GetColCount()); ++column) {
+        setColumnHidden(column - 1, hide);
+        model_->SetHidden(column - 1, hide);
+    }
+}
+
+void ResultGrid::SetColHeader(int column, const std::string& text) {
+    if (HasColumn(column)) model_->SetHeader(column - 1, text);
+}
+
+std::string ResultGrid::ColumnTag(int column) const {
+    return HasColumn(column) ? Layout()[static_cast<std::size_t>(column) - 1].fid : std::string();
+}
+
+void ResultGrid::SetColumnTag(int column, const std::string& tag) {
+    if (HasColumn(column)) model_->SetFid(column - 1, tag);
+}
+
+int ResultGrid::FindColumnByTag(const std::string& tag) const {
+    return model_->FindFid(tag) + 1;
+}
+
+void ResultGrid::OnColumnResized(int section, int, int newWidth) {
+    if (applying_ || newWidth == 0) return;  // width 0 is how Qt tells of hiding
+    if (section + 1 == FindColumnByTag(std::string(kNameColumnFid)) && newWidth < kMinNameWidth) {
+        setColumnWidth(section, kMinNameWidth);
+        return;
+    }
+    model_->SetWidth(section, newWidth);
+}
+
+// --- rows
+
+void ResultGrid::LockUpdate(bool on) {
+    if (!on && locks_ == 0) return;
+    locks_ += on ? 1 : -1;
+    if (locks_ == 0) model_->FlushChanges();
+    setUpdatesEnabled(locks_ == 0);
+}
+
+void ResultGrid::SetRowCount(int rows) {
+    model_->SetRows(rows - 1);
+}
+
+int ResultGrid::GetRowCount() const {
+    return model_->Rows() + 1;
+}
+
+void ResultGrid::SetValue(int row, int column, const std::string& text) {
+    if (row == 1) {
+        SetColHeader(column, text);
+        return;
+    }
+    model_->SetCell(row - kFirstRow, column - 1, text);
+    if (locks_ == 0) model_->FlushChanges();
+}
+
+std::string ResultGrid::GetValue(int row, int column) const {
+    if (row != 1) return model_->Cell(row - kFirstRow, column - 1);
+    return HasColumn(column) ? Layout()[static_cast<std::size_t>(column) - 1].header : std::string();
+}
+
+void ResultGrid::SetRows(const RowTable& rows, std::size_t begin, std::size_t end,
+                         std::span<const int> gridColumns) {
+    model_->SetTable(rows, begin, end, gridColumns);
+}
+
+void ResultGrid::RefreshRows(int) {
+    model_->FlushChanges();
+    viewport()->update();
+}
+
+void ResultGrid::Redraw() {
+    viewport()->update();
+}
+
+void ResultGrid::EmptyGrid() {
+    ClearSelection();
+    SetRowCount(1);
+}
+
+// --- selection
+
+std::vector<int> ResultGrid::GetSelectedRows() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + kFirstRow);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void ResultGrid::SelectRange(int firstRow, int lastRow) {
+    const int first = std::max(firstRow, kFirstRow);
+    const int last = std::min(lastRow, GetRowCount());
+    if (first > last) return;
+    const QModelIndex top = model_->index(first - kFirstRow, VisibleColumnNear(1) - 1);
+    const QModelIndex bottom = model_->index(last - kFirstRow, 0);
+    selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(QItemSelection(top.siblingAtColumn(0), bottom),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void ResultGrid::ClearSelection() {
+    selectionModel()->clear();
+}
+
+// A hidden column can't be scrolled to, so its nearest neighbour stands for it.
+int ResultGrid::VisibleColumnNear(int column) const {
+    for (int at = std::max(column, 1); at <= GetColCount(); ++at) {
+        if (!IsColHidden(at)) return at;
+    }
+    for (int at = std::min(column, GetColCount()); at >= 1; --at) {
+        if (!IsColHidden(at)) return at;
+    }
+    return 1;
+}
+
+void ResultGrid::ScrollCellInView(int row, int column) {
+    if (row < kFirstRow || row > GetRowCount()) return;
+    // Rows just inserted come into the scroll bar's range only now, else when the event loop runs again.
+    updateGeometries();
+    scrollTo(model_->index(row - kFirstRow, VisibleColumnNear(column) - 1));
+}
+
+// --- looks
+
+void ResultGrid::SetColumnSizing(bool on) {
+    horizontalHeader()->setSectionResizeMode(on ? QHeaderView::Interactive : QHeaderView::Fixed);
+}
+
+void ResultGrid::SetGridLines(int mode) {
+    delegate_->SetLines(mode != 0);
+    viewport()->update();
+}
+
+void ResultGrid::SetRowColors(ColorNumber odd, ColorNumber even) {
+    delegate_->SetRowColors(odd, even);
+    viewport()->update();
+}
+
+void ResultGrid::RefreshColors() {
+    horizontalHeader()->setStyleSheet(HeaderStyle());
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, ToQColor(Color::GridOddRow));
+    setPalette(colors);
+    viewport()->update();
+}
+
+void ResultGrid::changeEvent(QEvent* event) {
+    PinnedColumnView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SetRowHeight();
+}
+
+// --- keys and copying
+
+void ResultGrid::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        const QString text = SelectedText();
+        if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+        event->accept();
+        return;
+    }
+    PinnedColumnView::keyPressEvent(event);
+    emit KeyPressed(event->key());
+}
+
+QString ResultGrid::SelectedText() const {
+    QString text;
+    for (const int row : GetSelectedRows()) {
+        QStringList cells;
+        for (int column = 1; column <= GetColCount(); ++column) {
+            if (!IsColHidden(column)) cells += model_->Copied(row - kFirstRow, column - 1);
+        }
+        text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+}  // namespace jogeon

@@ -1,0 +1,54 @@
+#include "screen/results/result_tabs_widget.h"
+
+#include <QSignalBlocker>
+
+#include "screen/palette/colors_qt.h"
+#include "screen/text/cp949.h"
+
+namespace jogeon {
+namespace {
+
+QString TabStyle() {
+    return QStringLiteral(
+               "QTabBar::tab { background: %1; color: %2; border: 1px solid %3; padding: 2px 10px;"
+               " margin-right: 2px; }"
+               "QTabBar::tab:selected { background: %4; color: %5; border-bottom-color: %4; }")
+        .arg(ToQColor(Color::TabBack).name(), ToQColor(Color::TabText).name(),
+             ToQColor(Color::TabEdge).name(), ToQColor(Color::TabSelectedBack).name(),
+             ToQColor(Color::TabSelectedText).name());
+}
+
+}  // namespace
+
+CNVTab::CNVTab(QWidget* parent) : QTabBar(parent) {
+    setExpanding(false);
+    setDrawBase(false);
+    setElideMode(Qt::ElideNone);  // narrow space is scrolled, so that "[12]" can be told from "[1]"
+    setUsesScrollButtons(true);
+    RefreshColors();
+}
+
+std::string CNVTab::TabLabel(int tab) const {
+    return ToCp949(tabText(tab).toStdString());
+}
+
+void CNVTab::AddTab(const std::string& label) {
+    const QSignalBlocker quiet(this);
+    addTab(QString::fromStdString(ToUtf8(label)));
+}
+
+void CNVTab::SelectTab(int tab) {
+    const QSignalBlocker quiet(this);
+    setCurrentIndex(tab);
+}
+
+void CNVTab::RemoveTab(int tab) {
+    const QSignalBlocker quiet(this);
+    removeTab(tab);
+}
+
+void CNVTab::RefreshColors() {
+    setStyleSheet(TabStyle());
+}
+
+}  // namespace jogeon

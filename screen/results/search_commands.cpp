@@ -1,0 +1,51 @@
+#include "screen/results/search_commands.h"
+
+#include <utility>
+
+#include "screen/target/search_target.h"
+#include "screen/text/cp949.h"
+
+namespace jogeon {
+namespace {
+
+constexpr std::uint8_t kSearchKey = 1;
+constexpr std::uint8_t kReleaseKey = 0x11;
+
+}  // namespace
+
+SearchCommands::SearchCommands(RequestChannel& channel, ResultFlow& results, ColumnTables& columns,
+                               host::Questions& questions, Gather gather)
+    : channel_(channel),
+      results_(results),
+      columns_(columns),
+      questions_(questions),
+      gather_(std::move(gather)) {}
+
+// The old result is released even if composing then fails.
+void SearchCommands::Start() {
+    if (channel_.Busy()) return;
+    SearchInputs inputs = gather_();
+    if (!HasUniverse(inputs.header.target)) {
+        questions_.Ask({"검색 대상을 먼저 지정해야 합니다."_cp949, "조건 검색"_cp949});
+        return;
+    }
+    Release();
+    inputs.prior = results_.Prior();
+    searchHandle_ = SearchHandleOf(inputs.header.currentSaved);
+    if (const auto payload = ComposeSearch(inputs, columns_, questions_)) channel_.Send(*payload, kSearchKey);
+}
+
+void SearchCommands::NextPage() {
+    if (channel_.Busy()) return;
+    const ResultSet* result = results_.Pageable();
+    if (!result) return;
+    channel_.Send(
+        ComposeNextPage(channel_.Window(), gather_().header.userId, result->resultHandle, result->received),
+        kSearchKey);
+}
+
+void SearchCommands::Release() {
+    channel_.Send(ComposeRelease(channel_.Window(), gather_().header.userId, searchHandle_), kReleaseKey);
+}
+
+}  // namespace jogeon
