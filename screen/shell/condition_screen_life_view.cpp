@@ -1,0 +1,154 @@
+// The two orders of the screen's life: what start-up does, and what shut-down does.
+#include <array>
+#include <cstring>
+
+#include "screen/files/data_paths.h"
+#include "screen/host/window_messages_qt.h"
+#include "screen/palette/colors_qt.h"
+#include "screen/saved/saved_condition_file.h"
+#include "screen/shell/condition_screen_view.h"
+#include "screen/shell/host_color_numbers.h"
+#include "screen/shell/screen_style_qt.h"
+#include "screen/transactions/list_request.h"
+
+namespace jogeon {
+namespace {
+
+// The block of the start-up query: its second 16-bit word matters.
+constexpr std::size_t kQueryBlockSize = 24;
+constexpr std::size_t kQueryWordOffset = 2;
+
+}  // namespace
+
+void ConditionScreen::StartUp() {
+    FindHostMainWindow();
+    ReadUserId();
+    TakeMajorId();
+    QueryHost();
+    ReadGridSettings();
+    MakeBackBrush();
+    SetUpControls();
+    BuildConditionGrid();
+    BuildResultGrid();
+    PlacePanel();
+    ReadFileVersion();
+    RequestConditionList();
+    ReadConditionSettings();
+    TakeResultGridRect();
+}
+
+void ConditionScreen::ShutDown() {
+    ReleaseSearch();
+    SendClosingMessage();
+    GiveMajorIdBack();
+    DropConditions();
+    DropResults();
+    WriteSettings();
+}
+
+void ConditionScreen::FindHostMainWindow() {
+    hostMainWindow_ = host::NearestHostFrame(*this);
+}
+
+void ConditionScreen::ReadUserId() {
+    userId_ = GetUserId(*services_.links);
+}
+
+void ConditionScreen::TakeMajorId() {
+    channel_.Attach(handle_, services_.links->NVLink_GetNewMajorID(handle_));
+}
+
+// A host that will not restore last data has none for us to wait for.
+void ConditionScreen::QueryHost() {
+    if (!hostWindow_) return;
+    std::array<std::byte, kQueryBlockSize> block{};
+    host::SendMessage(hostWindow_, host::kHostQuery, 0, reinterpret_cast<std::intptr_t>(block.data()));
+    std::uint16_t word = 0;
+    std::memcpy(&word, block.data() + kQueryWordOffset, sizeof word);
+    if (word == 0) lastDataApplied_ = true;
+}
+
+void ConditionScreen::ReadGridSettings() {
+    SettingsFile(*services_.links).ReadGridSettings(settings_);
+}
+
+void ConditionScreen::MakeBackBrush() {
+    backBrush_ = QBrush(ToQColor(services_.colors->GetColor(kBackgroundColor, 0)));
+}
+
+void ConditionScreen::SetUpControls() {
+    setStyleSheet(ScreenStyle(backBrush_.color()));
+    form_.SetCaptions();
+    ShowTarget(saved_.Target());
+    EnableSavedCommands(false);
+    SelectBuy(true);
+    FillScopes();
+    form_.ButtonAt(control::kNextPage).setEnabled(false);
+    host::SendMessage(host::HandleOf(&form_.At(control::kCodeList)), host::kHostChanged, 0,
+                      static_cast<std::intptr_t>(hostMainWindow_));
+}
+
+void ConditionScreen::BuildConditionGrid() {
+    conditionGrid_.SetLineColor(services_.colors->GetColor(kGridLineColor, 0));
+}
+
+// The user's layout file, or the template if he has none; a file that can't be read leaves an empty grid.
+void ConditionScreen::BuildResultGrid() {
+    host::LinkStore& links = *services_.links;
+    std::filesystem::path layout = GetDataFilePath(links, kUserFolder, userId_ + "_0150TempGrid01.dlg");
+    if (!std::filesystem::exists(layout)) layout = GetDataFilePath(links, "Screen/Dlg", "0150TempGrid.dlg");
+    resultGrid_.ApplyLayout(ReadGridLayout(layout));
+    columns_ = LoadColumnTable(GetDataFilePath(links, kSystemFolder, "XcsFid.dat"));
+    results_.ApplyLayout();
+    resultGrid_.SetColumnSizing(settings_.changeSize);
+    resultGrid_.SetGridLines(settings_.lineBorder ? 0 : 2);
+    resultGrid_.SetRowColors(settings_.oddColor, settings_.evenColor);
+    resultGrid_.Redraw();
+}
+
+void ConditionScreen::PlacePanel() {
+    constexpr int kInset = 2;
+    panel_.setGeometry(panel_.geometry().adjusted(kInset, kInset, -kInset, -kInset));
+}
+
+void ConditionScreen::ReadFileVersion() {
+    fileVersion_ = ReadVersion(SavedConditionPath(GetHomePath(*services_.links), userId_));
+}
+
+void ConditionScreen::RequestConditionList() {
+    channel_.Send(ComposeListRequest(ListStep::First, userId_, "00", fileVersion_), kFirstListKey);
+}
+
+void ConditionScreen::ReadConditionSettings() {
+    SettingsFile(*services_.links).ReadConditionSettings(settings_);
+}
+
+void ConditionScreen::TakeResultGridRect() {
+    resultGridRect_ = resultGrid_.geometry();
+}
+
+void ConditionScreen::ReleaseSearch() {
+    search_.Release();
+}
+
+void ConditionScreen::SendClosingMessage() {
+    channel_.SendClosing();
+}
+
+void ConditionScreen::GiveMajorIdBack() {
+    services_.links->NVLink_DeleteMajorID(channel_.MajorId());
+}
+
+void ConditionScreen::DropConditions() {
+    editor_.Clear();
+}
+
+void ConditionScreen::DropResults() {
+    results_.Clear();
+}
+
+void ConditionScreen::WriteSettings() {
+    SettingsFile(*services_.links).WriteInterestSettings(settings_);
+}
+
+}  // namespace jogeon

@@ -1,0 +1,295 @@
+#include "screen/shell/condition_screen_view.h"
+
+#include <QEvent>
+#include <QStandardItemModel>
+#include <algorithm>
+
+#include "screen/expression/expression_check.h"
+#include "screen/expression/expression_error_dialog.h"
+#include "screen/host/window_messages_qt.h"
+#include "screen/palette/colors_qt.h"
+#include "screen/panes/menu_tree_pane.h"
+#include "screen/settings/settings_block.h"
+#include "screen/shell/control_icons_qt.h"
+#include "screen/shell/host_color_numbers.h"
+#include "screen/shell/screen_splitter_widget.h"
+#include "screen/shell/screen_style_qt.h"
+#include "screen/text/cp949.h"
+#include "screen/transactions/list_request.h"
+
+namespace jogeon {
+namespace {
+
+// Second byte of the message by which the settings dialog hands its block back.
+constexpr std::uintptr_t kSettingsAgreed = 3;
+
+constexpr int kExpressionGrowth = 40;  // pixels that the enlarged expression box reaches further down
+
+// Controls that the enlarged expression box covers.
+constexpr int kButtonRow[] = {
+    control::kScope, control::kSearch,       control::kNextPage, control::kClearResults, control::kRealTime,
+    control::kChart, control::kInterestSave, control::kSettings, control::kExpandMode,   control::kCodeList};
+
+constexpr const char* kScopes[] = {"전체검색", "결과내검색", "결과외검색", "순차검색"};
+
+QString Shown(const std::string& cp949) {
+    return QString::fromStdString(ToUtf8(cp949));
+}
+
+}  // namespace
+
+ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
+    : QWidget(parent),
+      services_(host::Installed()),
+      hostWindow_(hostWindow),
+      handle_(host::RegisterWindow(*this)),
+      form_(this),
+      resultGrid_(*services_.codeLists),
+      channel_(*services_.communication, *services_.clock, *services_.questions, [this] { RefreshCursor(); }),
+      conditionsPane_(conditionGrid_, expressionEdit_, panel_),
+      editor_(conditionsPane_),
+      saved_(*this, editor_, *services_.questions, *services_.links, settings_),
+      resultControls_(
+          {*this, resultGrid_, resultTabs_, form_.ComboAt(control::kScope),
+           form_.ButtonAt(control::kNextPage), form_.ButtonAt(control::kCodeList),
+           form_.LabelAt(control::kTotalCount), form_.LabelAt(control::kReceivedCount), progressBar_},
+          *services_.questions, *services_.clock),
+      results_(resultControls_, columns_, *services_.links, *services_.questions),
+      search_(channel_, results_, columns_, *services_.questions, [this] { return GatherSearchInputs(); }) {
+    PlaceControls();
+    WireCommands();
+    WireReplies();
+}
+
+ConditionScreen::~ConditionScreen() {
+    ShutDown();
+}
+
+void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
+    splitterWindow_ = host::HandleOf(&splitter);
+    treeView_ = &tree;
+}
+
+// --- controls and commands
+
+void ConditionScreen::PlaceControls() {
+    form_.Place(panel_, control::kPanelArea, control::kPanelArea);
+    panel_.hide();
+    form_.Place(conditionGrid_, control::kConditionGridArea, control::kConditionGrid);
+    form_.Place(expressionEdit_, control::kExpression, control::kExpression);
+    form_.Place(resultTabs_, control::kResultTabs, control::kResultTabs);
+    form_.Place(resultGrid_, control::kResultGrid, control::kResultGrid);
+    form_.Place(progressBar_, control::kProgress, control::kProgress);
+    host::RegisterWindow(resultGrid_);
+    host::RegisterWindow(form_.At(control::kCodeList));
+}
+
+// A sequential search can't be chosen while there is nothing to run it.
+void ConditionScreen::FillScopes() {
+    QComboBox& scopes = form_.ComboAt(control::kScope);
+    for (const char* scope : kScopes) scopes.addItem(QString::fromUtf8(scope));
+    qobject_cast<QStandardItemModel*>(scopes.model())
+        ->item(static_cast<int>(SearchScope::Sequential))
+        ->setEnabled(false);
+}
+
+void ConditionScreen::WireCommands() {
+    form_.OnClick(control::kNewCondition, [this] { saved_.NewCondition(); });
+    form_.OnClick(control::kSearch, [this] { search_.Start(); });
+    form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
+    form_.OnClick(control::kClearResults, [this] { ClearResultsCommand(); });
+    form_.OnClick(control::kLeftPaneToggle, [this] { ToggleLeftPane(); });
+    form_.OnClick(control::kEnlargeExpression, [this] { ToggleExpressionHeight(); });
+    connect(&resultTabs_, &QTabBar::currentChanged, this, [this](int tab) { results_.OnTabSelected(tab); });
+    connect(&form_.ComboAt(control::kScope), &QComboBox::activated, this, [this](int scope) {
+        if (scope != static_cast<int>(SearchScope::Sequential)) editor_.ResetSequence();
+    });
+}
+
+void ConditionScreen::WireReplies() {
+    channel_.SetHandler('T', [this](std::string_view reply) { results_.OnSearchReply(reply, false); });
+    channel_.SetHandler('N', [this](std::string_view reply) { results_.OnSearchReply(reply, true); });
+    channel_.SetHandler('V', [this](std::string_view reply) { OnListReply(reply); });
+}
+
+void ConditionScreen::OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) {
+    saved_.LoadCondition(std::move(saved));
+}
+
+bool ConditionScreen::CheckExpression(const std::string& text) {
+    const ExpressionCheck check = CheckExpressionText(text);
+    if (check.valid) return true;
+    ExpressionErrorDialog dialog(ExpressionErrorText(text, check.errorPosition));
+    services_.questions->Run("ExpressionErrorDialog", &dialog);
+    return false;
+}
+
+void ConditionScreen::ToggleLeftPane() {
+    leftPaneClosed_ = !leftPaneClosed_;
+    host::SendMessage(splitterWindow_, host::kLeftPaneShown, leftPaneClosed_ ? 0 : 1, 0);
+    form_.ButtonAt(control::kLeftPaneToggle).setIcon(LeftPaneIcon(leftPaneClosed_));
+}
+
+void ConditionScreen::ToggleExpressionHeight() {
+    QAbstractButton& button = form_.ButtonAt(control::kEnlargeExpression);
+    const bool enlarge = button.text() == "▼";
+    button.setText(enlarge ? "▲" : "▼");
+    expressionEdit_.resize(expressionEdit_.width(),
+                           expressionEdit_.height() + (enlarge ? kExpressionGrowth : -kExpressionGrowth));
+    for (const int id : kButtonRow) form_.At(id).setVisible(!enlarge);
+    if (enlarge) expressionEdit_.raise();
+    expressionEdit_.setFocus();
+}
+
+void ConditionScreen::ClearResultsCommand() {
+    results_.Clear();
+    editor_.ResetSequence();
+}
+
+// The list of the user's sets: he has the latest one, or only its version is new.
+void ConditionScreen::OnListReply(std::string_view reply) {
+    const ListReply list = ReadListReply(reply);
+    if (list.answer == ListAnswer::VersionOnly) fileVersion_ = list.version;
+    if (list.answer != ListAnswer::Equal && list.answer != ListAnswer::VersionOnly) return;
+    treeView_->ShowSavedConditions();
+}
+
+SearchInputs ConditionScreen::GatherSearchInputs() {
+    SearchInputs inputs;
+    inputs.window = handle_;
+    inputs.scope = static_cast<SearchScope>(std::max(0, form_.ComboAt(control::kScope).currentIndex()));
+    inputs.header = {userId_, saved_.CurrentSaved(),
+                     ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()),
+                     form_.ButtonAt(control::kBuy).isChecked(), saved_.Target()};
+    inputs.conditions = editor_.Conditions();
+    inputs.expressionText = expressionEdit_.ExpressionText();
+    inputs.checkExpression = [this](const std::string& text) { return CheckExpression(text); };
+    return inputs;
+}
+
+// --- what the host asks for
+
+void ConditionScreen::SaveLeftPaneWidth(const std::string& key) {
+    host::SendMessage(splitterWindow_, host::kLeftPaneWidth, 1, reinterpret_cast<std::intptr_t>(key.c_str()));
+}
+
+void ConditionScreen::RestoreLeftPaneWidth(const std::string& key) {
+    if (std::exchange(lastDataApplied_, true)) return;
+    host::SendMessage(splitterWindow_, host::kLeftPaneWidth, 0, reinterpret_cast<std::intptr_t>(key.c_str()));
+}
+
+int ConditionScreen::ChangeEnvironment(int value) {
+    resultGrid_.Redraw();
+    return value;
+}
+
+void ConditionScreen::ReadHostColors() {
+    MakeBackBrush();
+    setStyleSheet(ScreenStyle(backBrush_.color()));
+    BuildConditionGrid();
+    const QColor radio = ToQColor(services_.colors->GetColor(kRadioColor, 0));
+    for (const int id : {control::kBuy, control::kSell}) {
+        QPalette palette = form_.At(id).palette();
+        palette.setColor(QPalette::Window, radio);
+        form_.At(id).setPalette(palette);
+    }
+    resultGrid_.RefreshColors();
+    resultTabs_.RefreshColors();
+}
+
+void ConditionScreen::FocusResultGrid() {
+    resultGrid_.setFocus();
+}
+
+bool ConditionScreen::event(QEvent* event) {
+    host::MessageEvent* message = host::AsMessage(event);
+    if (!message) return QWidget::event(event);
+    switch (message->number) {
+        case host::kInitialUpdate:
+            StartUp();
+            break;
+        case host::kServerReply: {
+            const auto* block = reinterpret_cast<const std::string*>(message->lParam);
+            channel_.OnReply(message->wParam != 0, block ? std::string_view(*block) : std::string_view());
+            break;
+        }
+        case host::kHostChanged:
+            ChangeHost(static_cast<host::WindowHandle>(message->lParam));
+            break;
+        case host::kExpressionChanged:
+            editor_.ResetSequence();
+            editor_.SetDirty(true);
+            message->result = 1;
+            break;
+        case host::kSettingsFill:
+            FillSettingsBlock(settings_, reinterpret_cast<std::byte*>(message->lParam));
+            message->result = 1;
+            break;
+        case host::kSettingsTaken:
+            if (((message->wParam >> 8) & 0xff) == kSettingsAgreed) {
+                TakeSettingsBlock(reinterpret_cast<const std::byte*>(message->lParam), settings_);
+            }
+            message->result = 1;
+            break;
+        case host::kIgnored:
+            message->result = 1;
+            break;
+        default:
+            break;
+    }
+    return true;
+}
+
+// The result grid follows the view, but never beyond its first size.
+void ConditionScreen::resizeEvent(QResizeEvent*) {
+    form_.resize(std::max(width(), kFormWidth), std::max(height(), kFormHeight));
+    if (resultGridRect_.width() <= 0 || width() <= 0 || height() <= 0) return;
+    QRect rect = resultGrid_.geometry();
+    rect.setRight(std::min(width(), resultGridRect_.right()));
+    resultGrid_.setGeometry(rect);
+}
+
+void ConditionScreen::ChangeHost(host::WindowHandle mainWindow) {
+    hostMainWindow_ = mainWindow;
+    for (const QWidget* told : {&form_.At(control::kCodeList), static_cast<QWidget*>(&resultGrid_)}) {
+        host::SendMessage(host::HandleOf(told), host::kHostChanged, 0,
+                          static_cast<std::intptr_t>(mainWindow));
+    }
+    host::SendMessage(splitterWindow_, host::kHostChanged, 0, 0);
+}
+
+void ConditionScreen::RefreshCursor() {
+    if (channel_.Busy()) {
+        setCursor(Qt::WaitCursor);
+    } else {
+        unsetCursor();
+    }
+}
+
+// --- SavedConditionView
+
+void ConditionScreen::ShowName(const std::string& name) {
+    form_.LabelAt(control::kNameLabel).setText(Shown(name));
+}
+
+void ConditionScreen::SelectBuy(bool buy) {
+    form_.ButtonAt(buy ? control::kBuy : control::kSell).setChecked(true);
+}
+
+void ConditionScreen::ShowTarget(const SearchTarget& target) {
+    QLabel& label = form_.LabelAt(control::kTargetLabel);
+    label.setText(Shown(target.m_strTargetLabel));
+    label.setToolTip(label.text());
+}
+
+void ConditionScreen::EnableSavedCommands(bool enabled) {
+    for (const int id : {control::kDeleteSaved, control::kRenameSaved, control::kSaveAs}) {
+        form_.EnableCommand(id, enabled);
+    }
+}
+
+void ConditionScreen::ClearTreeSelection() {
+    treeView_->ClearSelection();
+}
+
+}  // namespace jogeon

@@ -1,0 +1,147 @@
+// Screen 0150: the pane that everything else hangs on.
+//
+// It creates the controls and the collaborators, wires events to them, and runs the start-up and shut-down
+// orders. What a command does stands with the collaborator that owns the state it changes.
+#pragma once
+
+#include <QBrush>
+#include <QRect>
+#include <QWidget>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "screen/condition/bbox_panel_pane.h"
+#include "screen/condition/condition_editor.h"
+#include "screen/condition/condition_grid_view.h"
+#include "screen/condition/conditions_pane.h"
+#include "screen/expression/expression_edit.h"
+#include "screen/host/services.h"
+#include "screen/panes/progress_label_widget.h"
+#include "screen/panes/tree_picks.h"
+#include "screen/results/result_controls_widget.h"
+#include "screen/results/result_flow.h"
+#include "screen/results/result_grid_view.h"
+#include "screen/results/result_tabs_widget.h"
+#include "screen/results/search_commands.h"
+#include "screen/saved/saved_conditions.h"
+#include "screen/settings/screen_settings.h"
+#include "screen/shell/screen_form_widget.h"
+#include "screen/transactions/request_channel.h"
+#include "screen/transactions/result_columns.h"
+
+namespace jogeon {
+
+class CMenuTreeView;
+class ScreenSplitter;
+
+class ConditionScreen : public QWidget, public TreePicks, private SavedConditionView {
+    Q_OBJECT
+
+public:
+    // Uses the host's installed services, which outlive it. `hostWindow` is asked once; 0 for none.
+    ConditionScreen(host::WindowHandle hostWindow, QWidget* parent);
+    ~ConditionScreen() override;
+
+    // The panes around it, once, before its first update.
+    void LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree);
+
+    // TreePicks
+    void OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) override;
+
+    // Whether the expression is well formed; if it isn't, the user has been shown where.
+    bool CheckExpression(const std::string& text);
+
+    // What the module's exported functions ask for.
+    void SaveLeftPaneWidth(const std::string& key);
+    void RestoreLeftPaneWidth(const std::string& key);
+    int ChangeEnvironment(int value);
+    void ReadHostColors();
+    void FocusResultGrid();
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void StartUp();
+    void ShutDown();
+
+    // Steps of the start-up.
+    void FindHostMainWindow();
+    void ReadUserId();
+    void TakeMajorId();
+    void QueryHost();
+    void ReadGridSettings();
+    void MakeBackBrush();
+    void SetUpControls();
+    void BuildConditionGrid();
+    void BuildResultGrid();
+    void PlacePanel();
+    void ReadFileVersion();
+    void RequestConditionList();
+    void ReadConditionSettings();
+    void TakeResultGridRect();
+
+    // Steps of the shut-down.
+    void ReleaseSearch();
+    void SendClosingMessage();
+    void GiveMajorIdBack();
+    void DropConditions();
+    void DropResults();
+    void WriteSettings();
+
+    void PlaceControls();
+    void FillScopes();
+    void WireCommands();
+    void WireReplies();
+    void ToggleLeftPane();
+    void ToggleExpressionHeight();
+    void ClearResultsCommand();
+    void OnListReply(std::string_view reply);
+    void ChangeHost(host::WindowHandle mainWindow);
+    void RefreshCursor();
+    SearchInputs GatherSearchInputs();
+
+    // SavedConditionView
+    void ShowName(const std::string& name) override;
+    void SelectBuy(bool buy) override;
+    void ShowTarget(const SearchTarget& target) override;
+    void EnableSavedCommands(bool enabled) override;
+    void ClearTreeSelection() override;
+    void ClearResults() override { ClearResultsCommand(); }
+
+    const host::Services services_;
+    const host::WindowHandle hostWindow_;
+    const host::WindowHandle handle_;
+    host::WindowHandle hostMainWindow_ = 0;
+    host::WindowHandle splitterWindow_ = 0;
+    CMenuTreeView* treeView_ = nullptr;
+
+    ScreenForm form_;
+    ExpressionEdit expressionEdit_;
+    CNVTab resultTabs_;
+    ProgressLabel progressBar_;
+    ResultGrid resultGrid_;
+    ConditionGrid conditionGrid_;
+    BBoxPanel panel_;
+    QBrush backBrush_;
+    QRect resultGridRect_;
+
+    ScreenSettings settings_;
+    std::string userId_;
+    std::string fileVersion_;
+    bool lastDataApplied_ = false;  // the left pane's width has been restored, or must not be
+    bool leftPaneClosed_ = false;
+
+    RequestChannel channel_;
+    ConditionsPane conditionsPane_;
+    ConditionEditor editor_;
+    SavedConditions saved_;
+    ColumnTables columns_;
+    ResultControlsView resultControls_;
+    ResultFlow results_;
+    SearchCommands search_;
+};
+
+}  // namespace jogeon
