@@ -1,0 +1,67 @@
+// Columns over a window of bars: mean, extremes, deviation, and the length of the unbroken run.
+//
+// A window is the n bars that end at a bar; where one of them is missing or lies before the first bar, the
+// result is missing.
+#pragma once
+
+#include "server/indicators/market_day.h"
+
+namespace jogeon::indicators {
+
+using market::Bars;
+using market::PriceField;
+
+// A copy of one row; all missing for a bar before the first.
+Column ColumnAt(const Bars& bars, PriceField field, int bar);
+
+Column Mean(const Bars& bars, PriceField field, int bar, int n);
+Column Highest(const Bars& bars, PriceField field, int bar, int n);
+Column Lowest(const Bars& bars, PriceField field, int bar, int n);
+
+// Standard deviation of the whole window: the mean of the squares is taken over n, not n - 1.
+Column Deviation(const Bars& bars, PriceField field, int bar, int n);
+
+// How many known bars end at `bar` without a gap between them; 0 where it is missing itself.
+std::shared_ptr<const Lines> RunLength(MarketDay& day, Timeframe timeframe, int bar);
+
+// `column`, missing where fewer than `n` bars end at `bar` without a gap.
+Column OnlyUnbroken(MarketDay& day, Timeframe timeframe, int bar, int n, const Column& column);
+
+// at(bar) and at(bar - 1) as one line.
+template <typename At>
+Line LineOf(int bar, At at) {
+    return {at(bar), at(bar - 1)};
+}
+
+// left[i] and right[i] joined by `join`, for every instrument.
+template <typename Joined>
+Column Combine(const Column& left, const Column& right, Joined join) {
+    Column result(left.size());
+    for (std::size_t i = 0; i < left.size(); ++i) result[i] = join(left[i], right[i]);
+    return result;
+}
+
+// A quotient that is unknown where it would be infinite.
+inline double Ratio(double part, double whole) {
+    return whole == 0 ? kMissing : part / whole;
+}
+
+// 100 * (now - then) / then: the product first, so that a change of exactly 5 percent reads 5.
+inline double PercentChange(double now, double then) {
+    return Ratio(100 * (now - then), then);
+}
+
+// Calls step(b) for the bars 0 to `bar`; each call returns pointers to the columns of `Count` lines, and
+// the last two calls make the result.
+template <std::size_t Count, typename Step>
+Lines WalkTo(int bar, std::size_t instruments, Step step) {
+    Lines lines(Count, Line{Column(instruments, kMissing), Column(instruments, kMissing)});
+    for (int b = 0; b <= bar; ++b) {
+        const std::array<const Column*, Count> columns = step(b);
+        for (std::size_t i = 0; i < Count && b >= bar - 1; ++i)
+            (b == bar ? lines[i].now : lines[i].before) = *columns[i];
+    }
+    return lines;
+}
+
+}  // namespace jogeon::indicators
