@@ -1,0 +1,151 @@
+#include "server/engine/user_groups.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <initializer_list>
+#include <span>
+
+#include "screen/text/bytes.h"
+#include "server/engine/last_day.h"
+
+namespace jogeon::engine {
+namespace {
+
+using indicators::BitSet;
+using market::Instrument;
+using market::Market;
+using market::PriceField;
+
+constexpr std::size_t kExampleSize = 30;
+constexpr double kLowPrice = 1000;  // won
+constexpr int kMaxInterests = 99;
+
+struct ThemeRule {
+    std::string_view name;
+    std::array<std::string_view, 3> industries;  // pieces of the industry text, unused places empty
+    std::array<std::string_view, 3> names;       // pieces of the stock's name
+};
+
+constexpr ThemeRule kThemes[] = {
+    {"반도체", {"반도체"}, {"반도체"}},
+    {"이차전지", {"이차전지"}, {"배터리", "에너지솔루션"}},
+    {"제약·바이오", {"의약", "제약"}, {"바이오", "제약"}},
+    {"자동차·부품", {"자동차", "운송장비"}, {}},
+    {"조선·해운", {"선박", "해상 운송", "조선"}, {"조선", "해운"}},
+    {"소프트웨어·게임", {"소프트웨어", "게임"}, {"게임", "소프트"}},
+    {"방송·콘텐츠", {"영화", "방송업", "오디오물"}, {"엔터", "미디어"}},
+    {"건설", {"건설"}, {"건설"}},
+    {"금융지주·증권", {"은행", "금융 지원", "증권"}, {"금융지주", "증권"}},
+    {"지주회사", {"회사 본부"}, {"홀딩스", "지주"}},
+    {"기업인수목적(SPAC)", {}, {"스팩"}},
+};
+
+struct NewsSource {
+    std::string_view code;
+    std::string_view name;
+};
+
+constexpr NewsSource kNews[] = {
+    {"902", "장중시황"},   {"903", "인포스탁"}, {"904", "연합뉴스"}, {"905", "이데일리"},
+    {"906", "머니투데이"}, {"907", "한경뉴스"}, {"908", "공시"},
+};
+
+bool HasOneOf(std::string_view text, std::span<const std::string_view> pieces) {
+    return std::any_of(pieces.begin(), pieces.end(), [text](std::string_view piece) {
+        return !piece.empty() && text.find(piece) != std::string_view::npos;
+    });
+}
+
+BitSet StocksWhere(const Market& market, const std::function<bool(std::size_t)>& fits) {
+    BitSet stocks(market.Instruments().size());
+    for (std::size_t i = 0; i < stocks.Size(); ++i)
+        if (fits(i)) stocks.Set(i);
+    return stocks;
+}
+
+GroupList ExampleThemes(const Market& market) {
+    GroupList groups;
+    for (std::size_t i = 0; i < std::size(kThemes); ++i) {
+        const ThemeRule& rule = kThemes[i];
+        BitSet members = StocksWhere(market, [&](std::size_t stock) {
+            const Instrument& known = market.Instruments()[stock];
+            return HasOneOf(known.industry, rule.industries) || HasOneOf(known.name, rule.names);
+        });
+        // The code is the rule's own place in the table, whichever themes this market has stocks for.
+        if (members.Count())
+            groups.push_back({"6" + ZeroPadded(static_cast<int>(i) + 1, 2), std::string(rule.name), members});
+    }
+    return groups;
+}
+
+BitSet Places(const std::vector<std::size_t>& ranked, std::size_t stocks,
+              std::initializer_list<std::size_t> places) {
+    BitSet some(stocks);
+    for (std::size_t place : places)
+        if (place < ranked.size()) some.Set(ranked[place]);
+    return some;
+}
+
+BitSet Largest(const Market& market, std::vector<std::size_t> ranked,
+               const std::function<double(std::size_t)>& measure) {
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [&](std::size_t a, std::size_t b) { return measure(a) > measure(b); });
+    BitSet some(market.Instruments().size());
+    for (std::size_t i = 0; i < std::min(kExampleSize, ranked.size()); ++i) some.Set(ranked[i]);
+    return some;
+}
+
+GroupList ExampleInterests(const Market& market, const std::vector<std::size_t>& ranked) {
+    const auto turnover = [&](std::size_t stock) {
+        return DayValue(market, PriceField::Close, stock) * DayValue(market, PriceField::Volume, stock);
+    };
+    BitSet large(market.Instruments().size());
+    for (std::size_t i = 0; i < std::min(kExampleSize, ranked.size()); ++i) large.Set(ranked[i]);
+    return {{"501", "대형주", large},
+            {"502", "거래대금 상위", Largest(market, ranked, turnover)},
+            {"503", "저가주", StocksWhere(market, [&](std::size_t stock) {
+                 return DayValue(market, PriceField::Close, stock) < kLowPrice;
+             })}};
+}
+
+// Two accounts; the middle four digits are the user's own.
+std::vector<Account> ExampleAccounts(const Market& market, std::string_view user,
+                                     const std::vector<std::size_t>& ranked) {
+    unsigned number = 0;
+    for (char c : user) number = number * 31 + static_cast<unsigned char>(c);
+    const std::string branch = "1001" + ZeroPadded(static_cast<int>(number % 10000), 4);
+    const std::size_t stocks = market.Instruments().size();
+    return {{branch + "101", Places(ranked, stocks, {0, 2, 5, 11, 23})},
+            {branch + "201", Places(ranked, stocks, {40, 90, 150, 300, 700, 1200})}};
+}
+
+}  // namespace
+
+const Account* UserGroups::FindAccount(std::string_view number) const {
+    for (const Account& account : accounts)
+        if (account.number == number) return &account;
+    return nullptr;
+}
+
+std::string UserGroups::FreeInterestCode() const {
+    for (int number = 1; number <= kMaxInterests; ++number) {
+        std::string code = "5" + ZeroPadded(number, 2);
+        if (!FindGroup(interests, code)) return code;
+    }
+    return {};
+}
+
+UserGroups ExampleGroups(const Market& market, std::string_view user) {
+    const std::vector<std::size_t> ranked = StocksBySize(market);
+    UserGroups groups;
+    groups.interests = ExampleInterests(market, ranked);
+    groups.themes = ExampleThemes(market);
+    for (const NewsSource& source : kNews)
+        groups.news.push_back(
+            {std::string(source.code), std::string(source.name), BitSet(market.Instruments().size())});
+    groups.accounts = ExampleAccounts(market, user, ranked);
+    return groups;
+}
+
+}  // namespace jogeon::engine

@@ -1,0 +1,141 @@
+#include "server/service/request_reader.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "screen/text/bytes.h"
+#include "screen/transactions/condition_block.h"
+#include "screen/transactions/condition_header.h"
+#include "server/service/search_layout.h"
+
+namespace jogeon::service {
+namespace {
+
+using engine::BadSearch;
+using engine::Scope;
+namespace layout = search_request;
+
+// A cursor over the payload that never leaves it.
+class PayloadReader {
+public:
+    explicit PayloadReader(std::string_view payload) : rest_(payload) {}
+
+    std::string_view Take(std::size_t width) {
+        if (rest_.size() < width) throw BadSearch("the request ends too early");
+        const std::string_view field = rest_.substr(0, width);
+        rest_.remove_prefix(width);
+        return field;
+    }
+
+    // Digits and nothing else; no field is so wide that they don't fit an int.
+    int TakeNumber(std::size_t width) {
+        const std::string_view digits = Take(width);
+        const bool ok =
+            std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+        if (!ok) throw BadSearch("\"" + std::string(digits) + "\" is no number");
+        return Atoi(digits);
+    }
+
+    // The width of `count` elements, refused before anything is built for a count that can't be true.
+    std::string_view TakeList(int count, std::size_t width) {
+        return Take(static_cast<std::size_t>(count) * width);
+    }
+
+    void End() const {
+        if (!rest_.empty()) throw BadSearch("the request goes on behind its end");
+    }
+
+private:
+    std::string_view rest_;
+};
+
+Scope ReadScope(std::string_view field) {
+    if (field == "0") return Scope::Whole;
+    if (field == "1") return Scope::Within;
+    if (field == "2") return Scope::Outside;
+    throw BadSearch("\"" + std::string(field) + "\" is no scope");
+}
+
+// The header's own reading takes an unknown month code for every month, which is another search.
+void CheckMonth(std::string_view header) {
+    const std::string_view code = Read(header, condition_header::kMonthCode);
+    const int month = ReadNumber(header, condition_header::kMonthValue);
+    const bool other = code == "5";
+    if (code < "0" || code > "5" || (other && (month < 1 || month > 12)))
+        throw BadSearch("the settlement month can't be read");
+}
+
+ConditionHeader ReadHeader(std::string_view bytes) {
+    namespace slots = condition_header;
+    const std::size_t groups = static_cast<std::size_t>(
+        PayloadReader(Read(bytes, slots::kGroupCount)).TakeNumber(slots::kGroupCount.width));
+    if (groups > slots::kMaxGroupCodes)
+        throw BadSearch("the target names more groups than there is room for");
+    CheckMonth(bytes);
+    const int count = PayloadReader(Read(bytes, slots::kCount)).TakeNumber(slots::kCount.width);
+    std::optional<ConditionHeader> header = DecodeConditionHeader(bytes);
+    if (!header || header->count != count || header->target.Group.size() != groups)
+        throw BadSearch("the condition header can't be read");
+    return *std::move(header);
+}
+
+std::vector<DecodedBlock> ReadBlocks(PayloadReader& reader, int count) {
+    std::vector<DecodedBlock> blocks;
+    for (int i = 0; i < count; ++i) {
+        std::optional<DecodedBlock> block = DecodeConditionBlock(reader.Take(kConditionBlockSize));
+        if (!block) throw BadSearch("a condition block can't be read");
+        blocks.push_back(*std::move(block));
+    }
+    return blocks;
+}
+
+std::vector<std::string> ReadFids(PayloadReader& reader) {
+    const int count = reader.TakeNumber(layout::kCountWidth);
+    const std::string_view list = reader.TakeList(count, layout::kFidWidth);
+    std::vector<std::string> fids;
+    for (std::size_t at = 0; at < list.size(); at += layout::kFidWidth) {
+        const std::string_view fid = Trim(list.substr(at, layout::kFidWidth));
+        fids.emplace_back(fid.substr(std::min(fid.find_first_not_of('0'), fid.size())));
+    }
+    return fids;
+}
+
+// The codes of the rows that a narrowing search refers to, their market letter cut off.
+std::vector<std::string> ReadPriorCodes(PayloadReader& reader) {
+    const int count = reader.TakeNumber(layout::kCountWidth);
+    const std::string_view list = reader.TakeList(count, layout::kCodeWidth);
+    std::vector<std::string> codes;
+    for (std::size_t at = 0; at < list.size(); at += layout::kCodeWidth)
+        codes.emplace_back(TrimRight(list.substr(at + 1, layout::kCodeWidth - 1)));
+    return codes;
+}
+
+}  // namespace
+
+SearchRequest ReadSearchRequest(std::string_view payload) {
+    PayloadReader reader(payload);
+    reader.Take(layout::kLetter.width + layout::kWindow.width);
+    SearchRequest request;
+    request.order.scope = ReadScope(reader.Take(layout::kScope.width));
+    ConditionHeader header = ReadHeader(reader.Take(layout::kHeader.width));
+    request.order.target = std::move(header.target);
+    request.order.expression = std::move(header.exp);
+    request.order.conditions = ReadBlocks(reader, header.count);
+    request.fids = ReadFids(reader);
+    if (request.order.scope != Scope::Whole) request.order.priorCodes = ReadPriorCodes(reader);
+    reader.End();
+    return request;
+}
+
+PageRequest ReadPageRequest(std::string_view payload) {
+    namespace page = page_request;
+    PayloadReader reader(payload);
+    reader.Take(page::kResultHandle.offset);
+    PageRequest request;
+    request.resultHandle = reader.TakeNumber(page::kResultHandle.width);
+    request.received = reader.TakeNumber(page::kReceived.width);
+    reader.End();
+    return request;
+}
+
+}  // namespace jogeon::service

@@ -1,0 +1,150 @@
+#include "server/service/search_service.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "screen/text/cp949.h"
+#include "server/engine/market_groups.h"
+#include "server/indicators/market_day.h"
+#include "server/service/code_lists.h"
+#include "server/service/reply_writer.h"
+#include "server/service/request_reader.h"
+#include "server/service/result_store.h"
+#include "server/service/search_layout.h"
+#include "server/service/user_table.h"
+
+namespace jogeon::service {
+namespace {
+
+constexpr char kStart = 'T';
+constexpr char kNextPage = 'N';
+constexpr char kRelease = 'Z';
+constexpr char kVersion = 'V';
+constexpr std::string_view kEqual = "E";
+
+// The columns asked for that exist, each once. The stock itself needs no asking: it is the first field of
+// every row.
+std::vector<const engine::ReplyColumn*> ColumnsFor(const std::vector<std::string>& fids) {
+    std::vector<const engine::ReplyColumn*> columns;
+    for (const std::string& fid : fids) {
+        const engine::ReplyColumn* column = engine::FindColumn(fid);
+        const bool isNew = std::find(columns.begin(), columns.end(), column) == columns.end();
+        if (column && isNew) columns.push_back(column);
+    }
+    return columns;
+}
+
+void CutToTotal(engine::SearchResult& result) {
+    if (result.matches.size() <= kMaxTotal) return;
+    result.matches.resize(kMaxTotal);
+    for (engine::ValueColumn& column : result.values) column.values.resize(kMaxTotal);
+}
+
+std::string AnswerVersion(const std::string& payload) {
+    if (payload.size() < version_request::kSize) return {};
+    std::string reply(version_reply::kSize, ' ');
+    Write(reply, version_reply::kLetter, std::string_view(&kVersion, 1));
+    Write(reply, version_reply::kAnswer, kEqual);
+    return reply;
+}
+
+}  // namespace
+
+struct SearchService::State {
+    State(std::shared_ptr<const market::Market> served, FailureLog failureLog)
+        : market(std::move(served)),
+          day(market),
+          groups(engine::BuildMarketGroups(*market)),
+          users(*market),
+          log(std::move(failureLog)) {}
+
+    std::string AnswerSearch(const Request& request) {
+        const SearchRequest asked = ReadSearchRequest(request.payload);
+        auto result = std::make_shared<KeptResult>();
+        result->found = engine::Search(day, groups, *users.Of(request.user), asked.order);
+        CutToTotal(result->found);
+        result->columns = ColumnsFor(asked.fids);
+        const int handle = results.Keep({request.user, request.window}, result);
+        return BuildPage(kStart, handle, *result, 0, day);
+    }
+
+    std::string AnswerNextPage(const Request& request) {
+        const PageRequest asked = ReadPageRequest(request.payload);
+        const std::shared_ptr<const KeptResult> result =
+            results.Find({request.user, request.window}, asked.resultHandle);
+        if (!result) throw engine::BadSearch("there is no result to page through");
+        const std::size_t received = static_cast<std::size_t>(asked.received);
+        if (received > result->found.matches.size()) throw engine::BadSearch("the result has no such page");
+        return BuildPage(kNextPage, asked.resultHandle, *result, received, day);
+    }
+
+    std::string AnswerSearchTransaction(const Request& request) {
+        const char letter = request.payload.front();
+        try {
+            if (letter == kStart) return AnswerSearch(request);
+            if (letter == kNextPage) return AnswerNextPage(request);
+        } catch (const std::runtime_error& error) {  // a bad search or condition, or a damaged market file
+            Log(error);
+            return BuildFailure(letter);
+        }
+        if (letter == kRelease) results.Release({request.user, request.window});
+        return {};
+    }
+
+    void Log(const std::exception& error) const {
+        if (log) log(error.what());
+    }
+
+    const std::shared_ptr<const market::Market> market;
+    indicators::MarketDay day;
+    const engine::MarketGroups groups;
+    UserTable users;
+    ResultStore results;
+    const FailureLog log;
+};
+
+SearchService::SearchService(std::shared_ptr<const market::Market> market, FailureLog log)
+    : state_(std::make_unique<State>(std::move(market), std::move(log))) {}
+
+SearchService::~SearchService() = default;
+
+std::string SearchService::Handle(const Request& request) {
+    if (request.payload.empty()) return {};
+    if (request.transaction == kSearchTransaction) return state_->AnswerSearchTransaction(request);
+    if (request.transaction == kStoreTransaction && request.payload.front() == kVersion)
+        return AnswerVersion(request.payload);
+    return {};
+}
+
+bool SearchService::FillCodeLists(const std::string& user,
+                                  std::map<std::string, std::vector<std::string>>& lists) {
+    for (auto& [codeClass, lines] : lists) lines.clear();
+    try {
+        const UserTable::Groups groups = state_->users.Of(user);
+        for (auto& [codeClass, lines] : lists) lines = CodeList(codeClass, state_->groups, *groups);
+    } catch (const market::MarketError& error) {
+        state_->Log(error);
+        return false;
+    }
+    return true;
+}
+
+std::vector<std::string> SearchService::Accounts(const std::string& user) {
+    std::vector<std::string> numbers;
+    for (const engine::Account& account : state_->users.Of(user)->accounts) numbers.push_back(account.number);
+    return numbers;
+}
+
+std::string SearchService::AddInterestGroup(const std::string& user, const std::string& name,
+                                            const std::vector<std::string>& codes) {
+    return state_->users.AddInterestGroup(user, ToUtf8(name), codes);
+}
+
+std::string SearchService::StockName(const std::string& code) const {
+    const int stock = state_->market->Find(code);
+    return stock < 0 ? std::string()
+                     : ToCp949(state_->market->Instruments()[static_cast<std::size_t>(stock)].name);
+}
+
+}  // namespace jogeon::service

@@ -1,0 +1,67 @@
+// The search service: a request of the screen in, the bytes of its reply out.
+//
+// It serves one market, as it stands at its last bar, to any number of users and windows, and may be called
+// from several threads at once: evaluation runs outside every lock. Nothing that a payload holds can do more
+// than fail the request.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "server/market/market.h"
+
+namespace jogeon::service {
+
+// A request as the host hands it over. `user` and `window` are whose results it is about: the host knows
+// them for certain, so that the copies inside the payload are not looked at.
+struct Request {
+    std::string user;
+    std::uint32_t window = 0;
+    std::string transaction;  // eight bytes
+    std::uint8_t key = 0;
+    std::string payload;  // CP949
+};
+
+class SearchService {
+public:
+    // Told, in one line of UTF-8, why a request failed: the reply itself has no room for it.
+    using FailureLog = std::function<void(const std::string&)>;
+
+    // Throws MarketError when the market's last day can't be read.
+    explicit SearchService(std::shared_ptr<const market::Market> market, FailureLog log = {});
+    ~SearchService();
+    SearchService(const SearchService&) = delete;
+    SearchService& operator=(const SearchService&) = delete;
+
+    // The payload of the reply; empty for a request that has none.
+    std::string Handle(const Request& request);
+
+    // Fills the array of every class that is a key of `lists`: a three-byte code, a blank and the name in
+    // CP949. A class that the service doesn't have gets no line. False, with the arrays empty, when the
+    // market's file turns out damaged.
+    bool FillCodeLists(const std::string& user, std::map<std::string, std::vector<std::string>>& lists);
+
+    // The numbers of the user's accounts, eleven digits each. Like the next, throws MarketError when the
+    // market's file turns out damaged.
+    std::vector<std::string> Accounts(const std::string& user);
+
+    // Adds a group of stocks to the user's interest groups and returns its three-byte code; empty when the
+    // name or the codes are none of this market's, or when all codes are taken. It lives as long as the
+    // service. The name is CP949, codes are six bytes each.
+    std::string AddInterestGroup(const std::string& user, const std::string& name,
+                                 const std::vector<std::string>& codes);
+
+    // The name, in CP949, of the stock with this six-byte code; empty if it is unknown.
+    std::string StockName(const std::string& code) const;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace jogeon::service
