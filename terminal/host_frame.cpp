@@ -1,0 +1,60 @@
+#include "terminal/host_frame.h"
+
+#include <cstring>
+
+#include "screen/host/window_messages_qt.h"
+
+namespace jogeon::terminal {
+namespace {
+
+// The text under which the screen keeps its left pane's width.
+constexpr char kLastDataScreen[] = "0150";
+constexpr char kLastDataItem[] = "_LeftPane";
+
+// The start-up query's block: its second 16-bit word says whether last data will be restored.
+constexpr std::size_t kRestoreWordOffset = 2;
+
+QSize UnpackSize(std::intptr_t packed) {
+    return {static_cast<int>((packed >> 16) & 0xffff), static_cast<int>(packed & 0xffff)};
+}
+
+}  // namespace
+
+HostFrame::HostFrame(QWidget* parent)
+    : QWidget(parent), handle_(host::RegisterWindow(*this, host::WindowKind::HostFrame)) {}
+
+HostFrame::~HostFrame() {
+    Close();
+}
+
+bool HostFrame::Open(const ScreenModule& module) {
+    if (module.CreateScreen(&frame_, &screen_, this, "0150", 0, "", handle_) != kScreenCreated) return false;
+    module_ = &module;
+    module.SetLastData(screen_, kLastDataScreen, kLastDataItem);
+    return true;
+}
+
+void HostFrame::Close() {
+    if (!module_) return;
+    module_->GetLastData(screen_, kLastDataScreen, kLastDataItem);
+    module_->DestroyScreen(frame_);
+    module_ = nullptr;
+}
+
+bool HostFrame::event(QEvent* event) {
+    const host::MessageEvent* message = host::AsMessage(event);
+    if (!message) return QWidget::event(event);
+    enum { kResize = 0, kMinimum = 1 };  // 2, the maximum, is advice: results may have more room
+    if (message->number == host::kHostQuery) {
+        const std::uint16_t willRestore = 1;
+        std::memcpy(reinterpret_cast<char*>(message->lParam) + kRestoreWordOffset, &willRestore,
+                    sizeof willRestore);
+    } else if (message->number == host::kScreenSize && message->wParam == kMinimum) {
+        setMinimumSize(UnpackSize(message->lParam));
+    } else if (message->number == host::kScreenSize && message->wParam == kResize) {
+        emit SizeAsked(UnpackSize(message->lParam));
+    }
+    return true;
+}
+
+}  // namespace jogeon::terminal

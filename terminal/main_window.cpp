@@ -1,0 +1,63 @@
+#include "terminal/main_window.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+namespace jogeon::terminal {
+namespace {
+
+constexpr QSize kFirstFrameSize(176 + 585, 548);  // what screen 0150 asks for
+
+QString DateText(int date) {
+    return QStringLiteral("%1-%2-%3")
+        .arg(date / 10000)
+        .arg(date / 100 % 100, 2, 10, QLatin1Char('0'))
+        .arg(date % 100, 2, 10, QLatin1Char('0'));
+}
+
+}  // namespace
+
+QString MarketLine(const market::Market& market) {
+    const QString source = market.Generated() ? QStringLiteral("가상 시장 (생성된 데이터)")
+                                              : QString::fromStdString(market.Source());
+    return QStringLiteral("%1  ·  %2종목  ·  %3 기준")
+        .arg(source, QLocale(QLocale::Korean).toString(static_cast<int>(market.Instruments().size())),
+             DateText(market.LastDate()));
+}
+
+MainWindow::MainWindow(const QString& user, const market::Market& market) {
+    setWindowTitle("jogeon - [0150] 조건검색");
+    setCentralWidget(&frame_);
+    BuildMenu();
+    BuildStatusLine(user, market);
+    connect(&frame_, &HostFrame::SizeAsked, this, &MainWindow::GrantSize);
+    GrantSize(kFirstFrameSize);
+}
+
+void MainWindow::BuildMenu() {
+    QMenu* file = menuBar()->addMenu("파일(&F)");
+    file->addAction("끝내기(&X)", QKeySequence::Quit, this, &QWidget::close);
+    QMenu* help = menuBar()->addMenu("도움말(&H)");
+    help->addAction("jogeon 정보(&A)", this, [this] {
+        QMessageBox::about(this, "jogeon", "jogeon " JOGEON_VERSION "\n\n한국 주식시장 조건검색");
+    });
+}
+
+void MainWindow::BuildStatusLine(const QString& user, const market::Market& market) {
+    auto* marketLabel = new QLabel(MarketLine(market), this);
+    marketLabel->setObjectName("marketLine");
+    statusBar()->addWidget(marketLabel, 1);
+    statusBar()->addPermanentWidget(new QLabel("사용자 " + user, this));
+    statusBar()->setSizeGripEnabled(false);
+}
+
+// The window grows or shrinks around its frame.
+void MainWindow::GrantSize(QSize frameSize) {
+    ensurePolished();
+    layout()->activate();
+    resize(frameSize + QSize(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height()));
+}
+
+}  // namespace jogeon::terminal

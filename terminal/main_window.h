@@ -1,0 +1,31 @@
+// The terminal's main window: the screen, a menu, and a line that says who works on which market.
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include "server/market/market.h"
+#include "terminal/host_frame.h"
+
+namespace jogeon::terminal {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow(const QString& user, const market::Market& market);
+
+    HostFrame& Frame() { return frame_; }
+
+private:
+    void BuildMenu();
+    void BuildStatusLine(const QString& user, const market::Market& market);
+    void GrantSize(QSize frameSize);
+
+    HostFrame frame_;
+};
+
+// The line that names the market: where it comes from, how many stocks, its last day.
+QString MarketLine(const market::Market& market);
+
+}  // namespace jogeon::terminal

@@ -1,0 +1,51 @@
+#include "terminal/terminal.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "server/market/generated_market.h"
+#include "server/market/market_file.h"
+#include "terminal/trace.h"
+
+namespace jogeon::terminal {
+namespace {
+
+std::shared_ptr<const market::Market> LoadMarket(const QString& file) {
+    return file.isEmpty() ? market::GenerateMarket() : market::OpenMarket(file.toStdString());
+}
+
+void PrintLine(const std::string& line) {
+    std::fprintf(stderr, "jogeon: %s\n", line.c_str());
+}
+
+ServiceCommunication::Tracer TracerOf(const Options& options) {
+    if (!options.trace) return {};
+    return [](const TracedPacket& packet) { std::fputs(Describe(packet).c_str(), stderr); };
+}
+
+}  // namespace
+
+Terminal::Terminal(const Options& options)
+    : home_(PrepareHome(options.home)),
+      market_(LoadMarket(options.market)),
+      service_(market_, PrintLine),
+      communication_(service_, options.user.toStdString(), TracerOf(options)),
+      links_(options.user.toStdString(), home_),
+      codeLists_(service_, options.user.toStdString()),
+      module_(ScreenModule::DefaultPath()),
+      window_(options.user, *market_) {
+    if (options.demonstrate.isEmpty()) {
+        questions_ = std::make_unique<MessageBoxes>(window_);
+    } else {
+        questions_ = std::make_unique<PrintedQuestions>();
+    }
+    host::Install({&communication_, &links_, &codeLists_, &colors_, questions_.get(), &clock_});
+    if (!window_.Frame().Open(module_)) throw ModuleError("screen 0150 could not be created");
+}
+
+// The screen's last messages still find every service.
+Terminal::~Terminal() {
+    window_.Frame().Close();
+}
+
+}  // namespace jogeon::terminal

@@ -1,0 +1,184 @@
+// The real terminal: the module loaded from its library, the real service on its thread, real clicks.
+#include "terminal/terminal.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "screen/text/cp949.h"
+#include "server/market/generated_market.h"
+#include "server/market/market_file.h"
+#include "terminal/demonstration.h"
+#include "terminal/screen_driver.h"
+
+namespace jogeon::terminal {
+namespace {
+
+constexpr int kPatience = 60000;  // milliseconds, for a sanitized build on a busy machine
+
+class TerminalTest : public testing::Test {
+protected:
+    // The market of a first start, from a file: making it takes seconds in a sanitized build.
+    static void SetUpTestSuite() {
+        marketFolder_ = std::make_unique<QTemporaryDir>();
+        market::WriteMarket(*market::GenerateMarket(), MarketFile().toStdString());
+    }
+    static void TearDownTestSuite() { marketFolder_.reset(); }
+    static QString MarketFile() { return marketFolder_->path() + "/generated.market"; }
+
+    TerminalTest() {
+        options_.user = "tester";
+        options_.market = MarketFile();
+        options_.home = folder_.path() + "/home";
+        options_.demonstrate = "no boxes";
+    }
+
+    void Open() {
+        terminal_ = std::make_unique<Terminal>(options_);
+        terminal_->Window().show();
+        screen_ = std::make_unique<ScreenDriver>(terminal_->Window());
+        // The answer to the start-up's own request would end the wait for a search.
+        ASSERT_TRUE(QTest::qWaitFor([this] { return terminal_->Idle(); }, kPatience));
+    }
+
+    void SearchAndWait() {
+        screen_->Search();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return terminal_->Idle(); }, kPatience));
+    }
+
+    QString Label(int id) { return terminal_->Window().findChild<QLabel*>(QString::number(id))->text(); }
+    QAbstractButton& Button(int id) {
+        return *terminal_->Window().findChild<QAbstractButton*>(QString::number(id));
+    }
+
+    inline static std::unique_ptr<QTemporaryDir> marketFolder_;
+    QTemporaryDir folder_;
+    Options options_;
+    std::unique_ptr<Terminal> terminal_;
+    std::unique_ptr<ScreenDriver> screen_;
+};
+
+TEST_F(TerminalTest, EverySetOfTheFirmIsSearchedPageByPageToItsEnd) {
+    Open();
+    const QStringList sets = screen_->SetNames();
+    ASSERT_GE(sets.size(), 12);
+    int found = 0;
+    for (const QString& set : sets) {
+        SCOPED_TRACE(set.toStdString());
+        ASSERT_TRUE(screen_->OpenSet(set));
+        Button(21047).click();
+        SearchAndWait();
+        while (Button(21046).isEnabled()) {
+            Button(21046).click();
+            ASSERT_TRUE(QTest::qWaitFor([this] { return terminal_->Idle(); }, kPatience));
+        }
+        const QList<QStringList> rows = screen_->Rows(10000);
+        EXPECT_EQ(Label(21054), Label(21052));
+        EXPECT_EQ(Label(21054).toInt(), rows.size() - 1);
+        std::set<QString> codes;
+        for (qsizetype row = 1; row < rows.size(); ++row) codes.insert(rows[row][1]);
+        EXPECT_EQ(static_cast<std::size_t>(rows.size() - 1), codes.size()) << "a stock came twice";
+        found += rows.size() > 1 ? 1 : 0;
+    }
+    EXPECT_GE(found, 12);
+}
+
+TEST_F(TerminalTest, AHundredClicksAndLeavingWhileASearchRunsDoNoHarm) {
+    Open();
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().first()));
+    for (int click = 0; click < 100; ++click) {
+        Button(21039).click();
+        Button(click % 3 == 0 ? 21047 : 21041).click();
+        if (click % 10 == 0) QApplication::processEvents();
+    }
+    terminal_.reset();  // a reply may be under way
+    Open();
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().first()));
+    SearchAndWait();
+    EXPECT_GT(screen_->Rows(1).size(), 1);
+}
+
+TEST_F(TerminalTest, SearchWithinAResultNarrowsItUnderItsOwnTab) {
+    Open();
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().value(0)));
+    SearchAndWait();
+    const int whole = Label(21054).toInt();
+    auto* scope = terminal_->Window().findChild<QComboBox*>("21098");
+    scope->setCurrentIndex(1);
+    SearchAndWait();
+    auto* tabs = terminal_->Window().findChild<QTabBar*>("21105");
+    ASSERT_EQ(2, tabs->count());
+    EXPECT_EQ("[2]결과내검색", tabs->tabText(1));
+    EXPECT_EQ(whole, Label(21054).toInt()) << "the same conditions within their own result keep all of it";
+}
+
+TEST_F(TerminalTest, MarketLineAndPublishedCodesTellWhatIsShown) {
+    Open();
+    const auto* line = terminal_->Window().findChild<QLabel*>("marketLine");
+    EXPECT_TRUE(line->text().contains("2,600종목")) << line->text().toStdString();
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().value(0)));
+    SearchAndWait();
+    const QList<QStringList> rows = screen_->Rows(1);
+    const std::vector<std::string> codes = terminal_->SharedLinks().CodesOf(ToCp949("조건검색"));
+    ASSERT_FALSE(codes.empty());
+    EXPECT_EQ(rows[1][1].toStdString(), codes[0]);
+}
+
+TEST_F(TerminalTest, LeftPaneWidthSurvivesASession) {
+    Open();
+    QSplitter* splitter = terminal_->Window().findChild<QSplitter*>();
+    splitter->setSizes({220, 535});
+    QTest::mouseRelease(splitter->handle(1), Qt::LeftButton);
+    const int width = splitter->sizes()[0];
+    ASSERT_NE(176, width);
+    terminal_.reset();
+    Open();
+    EXPECT_EQ(width, terminal_->Window().findChild<QSplitter*>()->sizes()[0]);
+}
+
+TEST_F(TerminalTest, DemonstrationWritesAPictureAndNamesTheSetsWhenOneIsUnknown) {
+    Open();
+    const QString picture = folder_.path() + "/deep/screen.png";
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(0, Demonstrate(*terminal_, {}, picture));
+    EXPECT_NE(std::string::npos, testing::internal::GetCapturedStdout().find(picture.toStdString()));
+    EXPECT_GE(QPixmap(picture).width(), 761);
+
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(2, Demonstrate(*terminal_, "없는 조건", picture));
+    EXPECT_NE(std::string::npos,
+              testing::internal::GetCapturedStderr().find(screen_->SetNames()[3].toStdString()));
+}
+
+// The exports that a screen of this host must have and that do nothing here.
+TEST(ModuleExportsTest, EmptyFunctionsAnswerAsTheyMust) {
+    QLibrary library(SCREEN0150);
+    ASSERT_TRUE(library.load()) << library.errorString().toStdString();
+    EXPECT_EQ(0, reinterpret_cast<std::int16_t (*)(void*)>(library.resolve("SetGlobalFunc"))(&library));
+    EXPECT_EQ(1, reinterpret_cast<std::int16_t (*)(void*)>(library.resolve("OnPrint"))(nullptr));
+    for (const char* name :
+         {"SetFontChange", "SetScreenMXN", "GetLinkTagData", "SetEnvChange", "SetColorChange",
+          "SetFocusCombo", "GetLastData", "SetLastData", "DestroyScreen"}) {
+        EXPECT_NE(nullptr, library.resolve(name)) << name;
+    }
+    void* frame = nullptr;
+    void* screen = nullptr;
+    const auto create = reinterpret_cast<decltype(&::CreateScreen)>(library.resolve("CreateScreen"));
+    EXPECT_EQ(static_cast<std::int32_t>(0x80004005), create(&frame, &screen, nullptr, "", 0, "", 0));
+    EXPECT_EQ(nullptr, frame);
+}
+
+TEST(ScreenModuleTest, AForeignLibraryIsRefusedInOneLine) {
+    EXPECT_THROW(ScreenModule("/no/such/library.so"), ModuleError);
+}
+
+}  // namespace
+}  // namespace jogeon::terminal
