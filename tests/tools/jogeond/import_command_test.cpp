@@ -1,7 +1,5 @@
 // Runs the program itself, as a user does.
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,8 +7,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/tools/jogeond/run_jogeond.h"
 
 namespace jogeon {
 namespace {
@@ -19,21 +18,10 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-struct Outcome {
-    int exitCode;
-    std::string output;  // standard output and standard error as they came
-};
+using test::Outcome;
 
 Outcome RunImport(const std::string& arguments) {
-    const std::string command = std::string(JOGEOND) + " import " + arguments + " 2>&1";
-    FILE* const pipe = popen(command.c_str(), "r");
-    EXPECT_NE(pipe, nullptr);
-    std::string output;
-    std::array<char, 4096> buffer;
-    while (const std::size_t read = fread(buffer.data(), 1, buffer.size(), pipe))
-        output.append(buffer.data(), read);
-    const int status = pclose(pipe);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+    return test::RunJogeond("import " + arguments);
 }
 
 class ImportCommand : public testing::Test {
@@ -79,9 +67,9 @@ TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
     const std::string before = Read("bars.csv");
     for (const auto& [arguments, complaint] : cases) {
         const Outcome outcome = RunImport(arguments);
-        EXPECT_EQ(outcome.exitCode, 2) << arguments;
-        EXPECT_THAT(outcome.output, HasSubstr("jogeond import: ")) << arguments;
-        EXPECT_THAT(outcome.output, HasSubstr(complaint)) << arguments;
+        EXPECT_EQ(outcome.code, 2) << arguments;
+        EXPECT_THAT(outcome.out + outcome.err, HasSubstr("jogeond import: ")) << arguments;
+        EXPECT_THAT(outcome.out + outcome.err, HasSubstr(complaint)) << arguments;
         EXPECT_FALSE(std::filesystem::exists(At("m"))) << arguments;
     }
     EXPECT_EQ(Read("bars.csv"), before);
@@ -89,24 +77,37 @@ TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
 
 TEST_F(ImportCommand, SaysWhatItDidAndWhatItLeftOut) {
     const Outcome outcome = RunImport("--out=" + At("m") + " " + At("bars.csv"));
-    EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_THAT(outcome.output,
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_THAT(outcome.out + outcome.err,
                 AllOf(HasSubstr(At("bars.csv") + ":5: rejected: the high is below the low\n"),
                       HasSubstr(At("m") + ": 2 bars of 1 stocks on 2 trading days, 20240304 to 20240305\n"),
                       HasSubstr("  1 lines rejected\n"), HasSubstr("  1 halted days\n"),
                       HasSubstr("given more than once, the last one counts: 000020 on 20240305\n")));
     EXPECT_THAT(Read("m"), StartsWith("JOGEONM\n"));
-    EXPECT_EQ(RunImport("--help").exitCode, 0);
+    EXPECT_EQ(RunImport("--help").code, 0);
 }
 
 TEST_F(ImportCommand, FailureLeavesTheOldFileAndNothingElse) {
     Write("m", "what was there");
     const Outcome outcome = RunImport("--max-rejects 0 --out " + At("m") + " " + At("bars.csv"));
-    EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_THAT(outcome.output, HasSubstr("more than 0 lines were rejected; nothing was written"));
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_THAT(outcome.out + outcome.err, HasSubstr("more than 0 lines were rejected; nothing was written"));
     EXPECT_EQ(Read("m"), "what was there");
     const std::filesystem::directory_iterator files(folder_);
     EXPECT_EQ(std::count_if(begin(files), end(files), [](const auto&) { return true; }), 2);
+}
+
+TEST_F(ImportCommand, VerifyTellsAWholeFileFromADamagedOne) {
+    ASSERT_EQ(RunImport("--out " + At("m") + " " + At("bars.csv")).code, 0);
+    EXPECT_EQ(test::RunJogeond("verify " + At("m")).code, 0);
+
+    std::string bytes = Read("m");
+    bytes[bytes.size() - 5] ^= 1;
+    Write("m", bytes);
+    const Outcome damaged = test::RunJogeond("verify " + At("m"));
+    EXPECT_EQ(damaged.code, 2);
+    EXPECT_THAT(damaged.err, StartsWith("jogeond verify: "));
+    EXPECT_EQ(test::RunJogeond("verify").code, 2);
 }
 
 }  // namespace

@@ -6,25 +6,16 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "screen/text/cp949.h"
+#include "tests/tools/jogeond/run_jogeond.h"
 
 namespace jogeon {
 namespace {
 
-struct Outcome {
-    int code = -1;
-    std::string out;
-    std::string err;
-};
-
-std::string ReadAll(const std::filesystem::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
+using test::Outcome;
+using test::ReadAll;
 
 // A folder with a market of three stocks, which the test goes about in.
 class SearchCommandTest : public testing::Test {
@@ -42,8 +33,8 @@ protected:
                "000010,가나전자,KOSPI,,전자부품 제조업,12,2000-01-01,1000000\n"
                "000020,\"다\"\"라,\"\"\",KOSPI,,은행,12,2000-01-01,1000000\n"
                "100010,A&B,KOSDAQ,,,12,2000-01-01,\n";
-        ASSERT_EQ(Run("import --out " + Path("market.jgm") + " --symbols " + Path("symbols.csv") + " " +
-                      Path("bars.csv"))
+        ASSERT_EQ(test::RunJogeond("import --out " + Path("market.jgm") + " --symbols " +
+                                   Path("symbols.csv") + " " + Path("bars.csv"))
                       .code,
                   0);
         WriteSet("set.dat", "A", "00=0401020008;A;1;1;30^0|60^1000|61^5000;\n");
@@ -59,17 +50,8 @@ protected:
             << "[01]\nName=" + ToCp949("시험") + "\n" + more + "Exp=" + expression + "\nCount=1\n" + lines;
     }
 
-    // Runs the program with the words behind its name.
-    Outcome Run(const std::string& words) {
-        const std::string command =
-            std::string(JOGEOND) + " " + words + " >" + Path("out") + " 2>" + Path("err");
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadAll(folder_ / "out"),
-                ReadAll(folder_ / "err")};
-    }
-
     Outcome Search(const std::string& words) {
-        return Run("search --market " + Path("market.jgm") + " " + words);
+        return test::RunJogeond("search --market " + Path("market.jgm") + " " + words);
     }
 
     // The first field of every line but the first, joined by blanks.
@@ -195,20 +177,20 @@ TEST_F(SearchCommandTest, WrongUseAndFailuresGetOneLine) {
         {"nothing", "no command \"nothing\""},
     };
     for (const Case& c : cases) {
-        const Outcome failed = Run(c.words);
+        const Outcome failed = test::RunJogeond(c.words);
         EXPECT_EQ(failed.code, 2) << c.words;
         EXPECT_EQ(failed.out, "") << c.words;
         EXPECT_NE(failed.err.find(c.expected), std::string::npos) << c.words << ": " << failed.err;
         EXPECT_EQ(failed.err.find('\n'), failed.err.size() - 1) << c.words << ": " << failed.err;
     }
-    EXPECT_EQ(Run("").code, 2);
-    EXPECT_EQ(Run("search --help").code, 0);
-    EXPECT_EQ(Run("--version").code, 0);
+    EXPECT_EQ(test::RunJogeond("").code, 2);
+    EXPECT_EQ(test::RunJogeond("search --help").code, 0);
+    EXPECT_EQ(test::RunJogeond("--version").code, 0);
 }
 
 TEST_F(SearchCommandTest, PagesToTheEndOfTheGeneratedMarket) {
     WriteSet("all.dat", "A", "00=0401020008;A;1;0;30^0|60^0|61^99999999;\n");
-    const Outcome found = Run("search --format csv --conditions " + Path("all.dat"));
+    const Outcome found = test::RunJogeond("search --format csv --conditions " + Path("all.dat"));
     EXPECT_EQ(found.code, 0);
     EXPECT_NE(found.err.find("generated market"), std::string::npos);
     std::istringstream codes(CodesIn(found.out));
