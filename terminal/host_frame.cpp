@@ -41,9 +41,19 @@ void HostFrame::Close() {
     module_ = nullptr;
 }
 
+host::WindowHandle HostFrame::ScreenHandle() const {
+    return host::HandleOf(static_cast<QWidget*>(screen_));
+}
+
 bool HostFrame::event(QEvent* event) {
     const host::MessageEvent* message = host::AsMessage(event);
-    if (!message) return QWidget::event(event);
+    if (!message) {
+        if (module_ && event->type() == QEvent::ParentChange) {
+            host::SendMessage(ScreenHandle(), host::kHostChanged, 0, handle_);
+        }
+        if (module_ && event->type() == QEvent::ApplicationPaletteChange) module_->SetColorChange(screen_);
+        return QWidget::event(event);
+    }
     enum { kResize = 0, kMinimum = 1 };  // 2, the maximum, is advice: results may have more room
     if (message->number == host::kHostQuery) {
         const std::uint16_t willRestore = 1;

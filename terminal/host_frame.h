@@ -1,7 +1,7 @@
 // The place of one screen in the main window: it loads the screen into itself and does a host frame's part.
 //
-// It answers the screen's start-up query, obeys the sizes the screen asks for, and restores and saves the
-// screen's last data around a session.
+// It answers the screen's start-up query, obeys the sizes the screen asks for, tells the screen of another
+// main window or other colours, and restores and saves the screen's last data around a session.
 #pragma once
 
 #include <QWidget>
@@ -35,6 +35,8 @@ protected:
 
 private:
     const host::WindowHandle handle_;
+    host::WindowHandle ScreenHandle() const;
+
     const ScreenModule* module_ = nullptr;
     void* frame_ = nullptr;
     void* screen_ = nullptr;

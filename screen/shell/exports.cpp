@@ -28,8 +28,9 @@ std::string TextOf(const char* text) {
     return text ? text : "";
 }
 
+// Frame and screen leave the module as the addresses of their QWidget.
 ConditionScreen& AsScreen(void* screen) {
-    return *static_cast<ConditionScreen*>(screen);
+    return *static_cast<ConditionScreen*>(static_cast<QWidget*>(screen));
 }
 
 }  // namespace
@@ -39,13 +40,13 @@ std::int32_t CreateScreen(void** frame, void** screen, QWidget* parent, const ch
     Values() = {TextOf(firstText), value, TextOf(secondText), hostWindow};
     if (!parent) return kScreenFailed;
     auto created = std::make_unique<ScreenFrame>(*parent, Values().hostWindow);
-    *screen = created->Screen();
-    *frame = created.release();
+    *screen = static_cast<QWidget*>(created->Screen());
+    *frame = static_cast<QWidget*>(created.release());
     return kScreenCreated;
 }
 
 std::int32_t DestroyScreen(void* frame) {
-    const std::unique_ptr<ScreenFrame> owned(static_cast<ScreenFrame*>(frame));
+    const std::unique_ptr<ScreenFrame> owned(static_cast<ScreenFrame*>(static_cast<QWidget*>(frame)));
     return 0;
 }
 

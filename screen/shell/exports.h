@@ -20,7 +20,8 @@ class QWidget;
 inline constexpr std::int32_t kScreenCreated = 0;
 inline constexpr std::int32_t kScreenFailed = static_cast<std::int32_t>(0x80004005);
 
-// Builds the screen inside `parent`, over the whole of it. Writes the frame and the screen on success only.
+// Builds the screen inside `parent`, over the whole of it. Writes the frame and the screen, addresses of
+// QWidgets, on success only.
 // The texts and the value are kept and never read. `hostWindow` is asked once, by the message 0x6bf.
 JOGEON_SCREEN_EXPORT std::int32_t CreateScreen(void** frame, void** screen, QWidget* parent,
                                                const char* firstText, std::int32_t value,

@@ -56,7 +56,7 @@ protected:
 
     QString Label(int id) { return terminal_->Window().findChild<QLabel*>(QString::number(id))->text(); }
     QAbstractButton& Button(int id) {
-        return *terminal_->Window().findChild<QAbstractButton*>(QString::number(id));
+        return *terminal_->Window().Frame().findChild<QAbstractButton*>(QString::number(id));
     }
 
     inline static std::unique_ptr<QTemporaryDir> marketFolder_;
@@ -142,6 +142,20 @@ TEST_F(TerminalTest, LeftPaneWidthSurvivesASession) {
     terminal_.reset();
     Open();
     EXPECT_EQ(width, terminal_->Window().findChild<QSplitter*>()->sizes()[0]);
+}
+
+TEST_F(TerminalTest, AScreenMovedToAnotherWindowNoLongerAsksForSizes) {
+    Open();
+    HostFrame& frame = terminal_->Window().Frame();
+    int asked = 0;
+    QObject::connect(&frame, &HostFrame::SizeAsked, [&] { ++asked; });
+    Button(21041).click();
+    EXPECT_EQ(1, asked);
+    QMainWindow other;
+    other.setCentralWidget(&frame);
+    Button(21041).click();
+    EXPECT_EQ(1, asked);
+    terminal_->Window().setCentralWidget(&frame);  // whose it is
 }
 
 TEST_F(TerminalTest, DemonstrationWritesAPictureAndNamesTheSetsWhenOneIsUnknown) {
