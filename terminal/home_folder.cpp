@@ -16,7 +16,7 @@ QString Variable(const char* name) {
 
 // The data files as they were built or installed: beside the program's folder, or where a variable says.
 QString ShippedData() {
-    if (const QString told = Variable("JOGEON_HOME_DATA"); !told.isEmpty()) return told;
+    if (QString told = Variable("JOGEON_HOME_DATA"); !told.isEmpty()) return told;
     const QDir programs(QCoreApplication::applicationDirPath());
     for (const char* candidate : {"../home", "../share/jogeon/home"}) {
         if (QDir(programs.filePath(candidate)).exists()) return QDir::cleanPath(programs.filePath(candidate));

@@ -18,7 +18,6 @@ struct IconvCloser {
 class Converter {
 public:
     Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open says that it failed
         if (handle_.get() == reinterpret_cast<iconv_t>(-1)) {
             static_cast<void>(handle_.release());
             throw std::runtime_error(std::string("this system's iconv does not know ") + from + " or " + to);
