@@ -16,6 +16,7 @@ namespace jogeon {
 class CSavedIndexInfo : public TargetFields {
 public:
     int m_bVendorSet = 0;  // 1: of the firm's read-only sets
+    bool m_bWhole = true;  // false: a condition of its file is missing, its indicator being unknown
     std::string Name;
     std::string m_strKey = "00";  // the set's two-digit number, its section in the file
     int TypePosition = 1;         // 1 buy, any other value sell

@@ -1,5 +1,7 @@
 #include "screen/expression/expression_edit.h"
 
+#include <QKeyEvent>
+
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -9,9 +11,6 @@ ExpressionEdit::ExpressionEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     document()->setDocumentMargin(2);
-    QFont bold = font();
-    bold.setBold(true);
-    setFont(bold);
     connect(this, &QPlainTextEdit::textChanged, this, &ExpressionEdit::KeepLimit);
 }
 
@@ -21,6 +20,11 @@ std::string ExpressionEdit::ExpressionText() const {
 
 void ExpressionEdit::SetExpressionText(const std::string& text) {
     setPlainText(QString::fromStdString(ToUtf8(text)));
+}
+
+void ExpressionEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return;
+    QPlainTextEdit::keyPressEvent(event);
 }
 
 void ExpressionEdit::KeepLimit() {

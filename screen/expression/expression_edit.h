@@ -18,6 +18,9 @@ public:
     std::string ExpressionText() const;
     void SetExpressionText(const std::string& text);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;  // the expression stays one line
+
 private:
     void KeepLimit();
 };

@@ -11,7 +11,7 @@ namespace jogeon {
 namespace {
 
 constexpr int kRuleLength = 51;
-constexpr QSize kSize(400, 190);
+constexpr QSize kSize(460, 190);
 
 QString TextWith(const std::string& marked) {
     return QStringLiteral(" 선택영역을 확인하십시요. \r\n") + QString(kRuleLength, '=') + "\r\n\r\n" +
@@ -30,6 +30,7 @@ ExpressionErrorDialog::ExpressionErrorDialog(const std::string& marked) {
     auto* text = new QPlainTextEdit(TextWith(marked), this);
     text->setObjectName("21095");
     text->setReadOnly(true);
+    text->setLineWrapMode(QPlainTextEdit::NoWrap);
     auto* ok = new QPushButton("확인", this);
     ok->setObjectName("1");
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -38,8 +39,8 @@ ExpressionErrorDialog::ExpressionErrorDialog(const std::string& marked) {
     layout->addWidget(title, 0, 0);
     layout->addWidget(what, 0, 1, 1, 2);
     layout->addWidget(text, 1, 0, 1, 3);
-    layout->addWidget(ok, 2, 1);
-    layout->setColumnStretch(2, 1);
+    layout->addWidget(ok, 2, 0, 1, 3, Qt::AlignHCenter);
+    layout->setColumnStretch(1, 1);
     resize(kSize);
 }
 

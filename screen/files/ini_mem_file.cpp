@@ -1,6 +1,7 @@
 #include "screen/files/ini_mem_file.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -30,12 +31,17 @@ std::optional<std::string_view> TakeLine(std::string_view& text) {
     return line;
 }
 
+// Far more than any of these files holds; a larger one is damage, and must not fill the memory.
+constexpr std::uintmax_t kMostBytes = 64u << 20;
+
 std::optional<std::string> ReadWholeFile(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
     std::ifstream file(std::filesystem::path(path), std::ios::binary);
-    std::string bytes(file ? std::filesystem::file_size(path, error) : 0, '\0');
-    if (!file || error || !file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
+    if (error || !file || size > kMostBytes) return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
         return std::nullopt;
     }
     return bytes;

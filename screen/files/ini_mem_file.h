@@ -57,8 +57,9 @@ public:
     CIniMemFile(const CIniMemFile&) = delete;
     CIniMemFile& operator=(const CIniMemFile&) = delete;
 
-    // Replace the contents; 1 if a section was found. A file that can't be read gives 0 and leaves the old
-    // contents, but the path and the flag are taken in any case. A memory file is left empty.
+    // Replace the contents; 1 if a section was found. A file that can't be read or has more than 64 MiB gives
+    // 0 and leaves the old contents, but the path and the flag are taken in any case. A memory file is left
+    // empty.
     int LoadIniFile(const std::string& path, int bKeyOrder);
     int LoadIniFile(CMemFile* file, int bKeyOrder);
 

@@ -1,6 +1,7 @@
 #include "screen/files/profile_text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <optional>
 #include <vector>
@@ -15,11 +16,17 @@ namespace fs = std::filesystem;
 
 using Lines = std::vector<std::string>;  // each with its line end, so that joining them gives the file back
 
+// Far more than any settings file holds; a larger one is damage, and must not fill the memory.
+constexpr std::uintmax_t kMostBytes = 64u << 20;
+
 // No text for a file that is there and can't be read; an empty one for a file that isn't there.
 std::optional<std::string> ReadText(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
     std::error_code error;
-    if (!in) return fs::exists(file, error) ? std::nullopt : std::optional<std::string>("");
+    if (!fs::exists(file, error)) return "";
+    if (!fs::is_regular_file(file, error)) return std::nullopt;  // a pipe would wait for its writer
+    if (fs::file_size(file, error) > kMostBytes || error) return std::nullopt;
+    std::ifstream in(file, std::ios::binary);
+    if (!in) return std::nullopt;
     std::string text;
     char buffer[4096];
     while (in.read(buffer, sizeof buffer) || in.gcount() > 0) {

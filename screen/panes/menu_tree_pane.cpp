@@ -44,6 +44,13 @@ void CMenuTreeView::ShowSavedConditions() {
     userSets_ =
         LoadSavedConditions(SavedConditionPath(GetHomePath(links), GetUserId(links)), catalogue_).sets;
     FillRoot(*userRoot_, userSets_);
+    LabelUserSets();
+}
+
+void CMenuTreeView::ShowNumbers(bool shown) {
+    if (numbersShown_ == shown) return;
+    numbersShown_ = shown;
+    LabelUserSets();
 }
 
 void CMenuTreeView::ClearSelection() {
@@ -67,6 +74,8 @@ void CMenuTreeView::LoadCatalogue() {
     const std::filesystem::path home = GetHomePath(*services_.links);
     catalogue_.Load(home / kSystemFolder, lists[kSectorClass]);
     vendorSets_ = LoadVendorConditions(VendorConditionPath(home), catalogue_);
+    // What is left of a set of the firm would find other stocks under its name.
+    std::erase_if(vendorSets_, [](const auto& set) { return !set->m_bWhole; });
     FillRoot(*vendorRoot_, vendorSets_);
 }
 
@@ -76,6 +85,14 @@ void CMenuTreeView::FillRoot(QTreeWidgetItem& root, const SavedSets& sets) {
         auto* node = new QTreeWidgetItem(&root, {QString::fromStdString(ToUtf8(sets[i]->Name))});
         node->setData(0, kSetRole, static_cast<int>(i));
         node->setToolTip(0, node->text(0));
+    }
+}
+
+void CMenuTreeView::LabelUserSets() {
+    for (int i = 0; i < userRoot_->childCount(); ++i) {
+        const CSavedIndexInfo& set = *userSets_[static_cast<std::size_t>(i)];
+        const std::string label = numbersShown_ ? "[" + set.m_strKey + "]" + set.Name : set.Name;
+        userRoot_->child(i)->setText(0, QString::fromStdString(ToUtf8(label)));
     }
 }
 

@@ -26,6 +26,9 @@ public:
     // Reads the user's sets from their file and shows them.
     void ShowSavedConditions();
 
+    // Whether the user's sets show their numbers before their names.
+    void ShowNumbers(bool shown);
+
     void ClearSelection();
 
 protected:
@@ -35,6 +38,7 @@ protected:
 private:
     void LoadCatalogue();
     void FillRoot(QTreeWidgetItem& root, const SavedSets& sets);
+    void LabelUserSets();
     void OnDoubleClick(QTreeWidgetItem* item);
 
     host::Services services_;
@@ -42,6 +46,7 @@ private:
     Catalogue catalogue_;
     SavedSets userSets_;
     SavedSets vendorSets_;
+    bool numbersShown_ = false;
     QTreeWidget tree_;
     QTreeWidgetItem* userRoot_;  // of the tree
     QTreeWidgetItem* vendorRoot_;

@@ -31,8 +31,10 @@ void SearchCommands::Start() {
     }
     Release();
     inputs.prior = results_.Prior();
+    const auto payload = ComposeSearch(inputs, columns_, questions_);
+    if (!payload) return;
     searchHandle_ = SearchHandleOf(inputs.header.currentSaved);
-    if (const auto payload = ComposeSearch(inputs, columns_, questions_)) channel_.Send(*payload, kSearchKey);
+    channel_.Send(*payload, kSearchKey);
 }
 
 void SearchCommands::NextPage() {

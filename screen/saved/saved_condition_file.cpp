@@ -1,6 +1,7 @@
 #include "screen/saved/saved_condition_file.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 #include "screen/condition/token_list.h"
@@ -43,21 +44,25 @@ void ReadTarget(const CIniMemFile& file, const std::string& section, TargetField
     for (const std::string& code : codes.Tokens()) target.Group.push_back(RightIn(code, kGroupCodeWidth));
 }
 
+// The letter of a line; none where a damaged file has something else in its place.
+std::optional<char> ReadLetter(const CTokenList& line) {
+    const std::string& letter = line.GetToken(kLetter);
+    if (letter.empty() || letter.front() < 'A' || letter.front() > 'Z') return std::nullopt;
+    return letter.front();
+}
+
 // The condition of a line; null if the catalogue doesn't have its indicator.
 std::unique_ptr<CIndexInfo> ReadCondition(const CTokenList& line, const Catalogue& catalogue) {
     auto condition = catalogue.MakeCondition(line.GetToken(kIndicator));
     if (!condition) return nullptr;
-    const std::string& letter = line.GetToken(kLetter);
-    if (!letter.empty() && letter.front() >= 'A' && letter.front() <= 'Z') {
-        condition->m_chLetter = letter.front();
-    }
+    if (const auto letter = ReadLetter(line)) condition->m_chLetter = *letter;
     condition->m_bChecked = IsSet(line.GetToken(kChecked)) ? 1 : 0;
     condition->m_bShowValue = IsSet(line.GetToken(kShowValue)) ? 1 : 0;
     condition->SetValueText(line.GetToken(kValues));
     return condition;
 }
 
-// Reads the expression and the lines of a set. A condition that can't be made leaves no trace.
+// Reads the expression and the lines of a set. A condition that can't be made leaves no trace in either.
 void ReadConditions(const CIniMemFile& file, const std::string& section, const Catalogue& catalogue,
                     CSavedIndexInfo& info) {
     info.Exp = file.GetString(section, kExp, "");
@@ -68,11 +73,11 @@ void ReadConditions(const CIniMemFile& file, const std::string& section, const C
             info.m_Conditions.push_back(std::move(condition));
             continue;
         }
-        const std::string& letter = line.GetToken(kLetter);
-        if (!letter.empty()) info.Exp = RemoveLetterFromExpression(info.Exp, letter.front());
+        if (const auto letter = ReadLetter(line)) info.Exp = RemoveLetterFromExpression(info.Exp, *letter);
     }
     info.Count = static_cast<int>(info.m_Conditions.size());
     if (count > 0 && info.Count == 0) info.Exp.clear();
+    info.m_bWhole = info.Count == count;
 }
 
 std::shared_ptr<CSavedIndexInfo> ReadSet(const CIniMemFile& file, const std::string& section,

@@ -80,8 +80,8 @@ void ReadAll(const std::filesystem::path& file, std::span<const Setting> table, 
 
 }  // namespace
 
-SettingsFile::SettingsFile(host::LinkStore& links)
-    : path_(GetDataFilePath(links, kUserFolder, GetUserId(links) + "_SaveIndex0.dat")) {}
+SettingsFile::SettingsFile(host::LinkStore& links, const std::string& userId)
+    : path_(GetDataFilePath(links, kUserFolder, userId + "_SaveIndex0.dat")) {}
 
 void SettingsFile::ReadGridSettings(ScreenSettings& settings) const {
     ReadAll(path_, kGridSettings, settings);

@@ -31,8 +31,7 @@ struct ScreenSettings {
 // The settings file of one user.
 class SettingsFile {
 public:
-    // Of the user whom the host names at this moment.
-    explicit SettingsFile(host::LinkStore& links);
+    SettingsFile(host::LinkStore& links, const std::string& userId);
 
     void ReadGridSettings(ScreenSettings& settings) const;       // grid and interest-group keys
     void ReadConditionSettings(ScreenSettings& settings) const;  // confirmations, results, layout

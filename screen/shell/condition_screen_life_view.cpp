@@ -1,10 +1,12 @@
 // The two orders of the screen's life: what start-up does, and what shut-down does.
 #include <array>
 #include <cstring>
+#include <system_error>
 
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/palette/colors_qt.h"
+#include "screen/panes/menu_tree_pane.h"
 #include "screen/saved/saved_condition_file.h"
 #include "screen/shell/condition_screen_view.h"
 #include "screen/shell/host_color_numbers.h"
@@ -69,7 +71,7 @@ void ConditionScreen::QueryHost() {
 }
 
 void ConditionScreen::ReadGridSettings() {
-    SettingsFile(*services_.links).ReadGridSettings(settings_);
+    SettingsFile(*services_.links, userId_).ReadGridSettings(settings_);
 }
 
 void ConditionScreen::MakeBackBrush() {
@@ -96,7 +98,10 @@ void ConditionScreen::BuildConditionGrid() {
 void ConditionScreen::BuildResultGrid() {
     host::LinkStore& links = *services_.links;
     std::filesystem::path layout = GetDataFilePath(links, kUserFolder, userId_ + "_0150TempGrid01.dlg");
-    if (!std::filesystem::exists(layout)) layout = GetDataFilePath(links, "Screen/Dlg", "0150TempGrid.dlg");
+    std::error_code error;
+    if (!std::filesystem::exists(layout, error)) {
+        layout = GetDataFilePath(links, "Screen/Dlg", "0150TempGrid.dlg");
+    }
     resultGrid_.ApplyLayout(ReadGridLayout(layout));
     columns_ = LoadColumnTable(GetDataFilePath(links, kSystemFolder, "XcsFid.dat"));
     results_.ApplyLayout();
@@ -120,7 +125,8 @@ void ConditionScreen::RequestConditionList() {
 }
 
 void ConditionScreen::ReadConditionSettings() {
-    SettingsFile(*services_.links).ReadConditionSettings(settings_);
+    SettingsFile(*services_.links, userId_).ReadConditionSettings(settings_);
+    treeView_->ShowNumbers(settings_.showSequence != 0);
 }
 
 void ConditionScreen::TakeResultGridRect() {
@@ -147,8 +153,9 @@ void ConditionScreen::DropResults() {
     results_.Clear();
 }
 
+// To the file they were read from, though the user may have logged off by now.
 void ConditionScreen::WriteSettings() {
-    SettingsFile(*services_.links).WriteInterestSettings(settings_);
+    SettingsFile(*services_.links, userId_).WriteInterestSettings(settings_);
 }
 
 }  // namespace jogeon

@@ -189,9 +189,8 @@ void ConditionScreen::ReadHostColors() {
     BuildConditionGrid();
     const QColor radio = ToQColor(services_.colors->GetColor(kRadioColor, 0));
     for (const int id : {control::kBuy, control::kSell}) {
-        QPalette palette = form_.At(id).palette();
-        palette.setColor(QPalette::Window, radio);
-        form_.At(id).setPalette(palette);
+        // Under a style sheet a palette would have no effect.
+        form_.At(id).setStyleSheet(QStringLiteral("QRadioButton { background: %1; }").arg(radio.name()));
     }
     resultGrid_.RefreshColors();
     resultTabs_.RefreshColors();
@@ -245,7 +244,7 @@ void ConditionScreen::resizeEvent(QResizeEvent*) {
     form_.resize(std::max(width(), kFormWidth), std::max(height(), kFormHeight));
     if (resultGridRect_.width() <= 0 || width() <= 0 || height() <= 0) return;
     QRect rect = resultGrid_.geometry();
-    rect.setRight(std::min(width(), resultGridRect_.right()));
+    rect.setRight(std::min(width() - 1, resultGridRect_.right()));
     resultGrid_.setGeometry(rect);
 }
 

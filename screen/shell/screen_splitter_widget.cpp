@@ -5,6 +5,7 @@
 #include <QSplitterHandle>
 #include <algorithm>
 
+#include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/settings/screen_settings.h"
 #include "screen/text/bytes.h"
@@ -47,7 +48,8 @@ std::intptr_t PackSize(int width, int height) {
 
 }  // namespace
 
-ScreenSplitter::ScreenSplitter(QWidget* parent) : QSplitter(Qt::Horizontal, parent) {
+ScreenSplitter::ScreenSplitter(QWidget* parent)
+    : QSplitter(Qt::Horizontal, parent), links_(*host::Installed().links) {
     setHandleWidth(kBarWidth);
     setChildrenCollapsible(false);
     host::RegisterWindow(*this);
@@ -125,13 +127,13 @@ void ScreenSplitter::SetLeftWidth(int width) {
 }
 
 void ScreenSplitter::SaveWidth(const std::string& key) const {
-    SettingsFile(*host::Installed().links).WriteLeftPaneWidth(key, leftPaneWidth_);
+    SettingsFile(links_, GetUserId(links_)).WriteLeftPaneWidth(key, leftPaneWidth_);
 }
 
-// A width of 0 sets the column to nothing but isn't remembered.
+// A width of 0 sets the column to nothing but isn't remembered, nor is one that no pane can have.
 void ScreenSplitter::RestoreWidth(const std::string& key) {
-    const int width = SettingsFile(*host::Installed().links).LeftPaneWidth(key);
-    if (width != 0) leftPaneWidth_ = width;
+    const int width = SettingsFile(links_, GetUserId(links_)).LeftPaneWidth(key);
+    if (width > 0) leftPaneWidth_ = width;
     SetLeftWidth(width);
 }
 

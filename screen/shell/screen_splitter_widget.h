@@ -23,6 +23,7 @@ public:
     static constexpr int kScreenHeight = 548;
     static constexpr int kWidestMinimum = 764;  // floor of the second size message
 
+    // Uses the host's installed services.
     explicit ScreenSplitter(QWidget* parent);
 
     // Puts the two panes in place at their ideal widths.
@@ -47,6 +48,7 @@ private:
     void SaveWidth(const std::string& key) const;
     void RestoreWidth(const std::string& key);
 
+    host::LinkStore& links_;
     host::WindowHandle hostFrameWindow_ = 0;
     bool leftPaneHidden_ = false;
     int leftPaneWidth_ = kLeftPaneWidth;

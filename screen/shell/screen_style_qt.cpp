@@ -20,7 +20,7 @@ QPushButton#%7 { background: %6; color: %14; font-weight: bold; border-color: %6
 QPushButton#%7:pressed { background: %4; }
 QLabel { color: %4; }
 QRadioButton { color: %4; }
-QPlainTextEdit#%8 { background: %9; border: 1px solid %2; color: %4; }
+QPlainTextEdit#%8 { background: %9; border: 1px solid %2; color: %4; font-weight: bold; }
 QLabel#%10 { font-weight: bold; }
 QLabel#%11 { background: %3; border: 1px solid %2; padding-left: 4px; }
 QLabel#%12, QLabel#%13 { font-weight: bold; }

@@ -101,6 +101,15 @@ TEST_F(IniMemFileTest, AFailedLoadKeepsTheContentsAndTakesThePath) {
     EXPECT_EQ("[s]\r\nk=v\r\n\r\n", ReadBytes(path_));
 }
 
+TEST_F(IniMemFileTest, AFileBeyondAllMeasureCannotBeRead) {
+    WriteBytes(path_, "[s]\n");
+    std::error_code error;
+    std::filesystem::resize_file(path_, std::uintmax_t{4} << 40, error);  // no disk is used for it
+    if (error) GTEST_SKIP() << "this file system makes no such file: " << error.message();
+    CIniMemFile file;
+    EXPECT_EQ(0, file.LoadIniFile(path_, 1));
+}
+
 TEST_F(IniMemFileTest, ReadsValues) {
     WriteBytes(path_, "[s]\nn=42\nmixed=12abc\nword=abc\nhex=0x10\nblank= 12\nminus=-3\nd=2.5e1x\nempty=\n");
     const CIniMemFile file(path_, 1);

@@ -1,6 +1,7 @@
 #include "screen/files/profile_text.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "screen/files/atomic_file.h"
 #include "tests/screen/support/condition_files.h"
@@ -51,6 +52,13 @@ TEST_F(ProfileTextTest, WritesOneValueAndKeepsTheRest) {
         EXPECT_EQ(test::ReadBytes(file_), c.after) << c.before;
         EXPECT_EQ(Read("S", "key"), "v");
     }
+}
+
+TEST_F(ProfileTextTest, APipeIsNeitherWaitedForNorReplaced) {
+    ASSERT_EQ(0, mkfifo(file_.c_str(), 0600));
+    EXPECT_EQ(Read("A", "x"), "default");
+    EXPECT_FALSE(WriteProfileText(file_, "A", "x", "1"));
+    EXPECT_TRUE(std::filesystem::is_fifo(file_));
 }
 
 TEST_F(ProfileTextTest, MakesTheFileAndItsFolder) {

@@ -102,9 +102,10 @@ TEST_F(SavedConditionFileTest, DropsConditionsOnUnknownIndicators) {
                           "02=0101010008;C;1;0;;\n"
                           "[01]\nExp=!A|Z\nCount=1\n00=9999990008;A;1;0;;\n"
                           "[02]\nExp=A&B\nCount=2147483647\n00=0101010008;A;1;0;;\n"
-                          "[03]\nExp=A\nCount=-4\n00=0101010008;A;1;0;;\n")
+                          "[03]\nExp=A\nCount=-4\n00=0101010008;A;1;0;;\n"
+                          "[04]\nExp=()A\nCount=2\n00=9999990008;);1;0;;\n01=0101010008;A;1;0;;\n")
                           .sets;
-    ASSERT_EQ(sets.size(), 4u);
+    ASSERT_EQ(sets.size(), 5u);
     EXPECT_EQ(sets[0]->Exp, "A|C");
     EXPECT_EQ(sets[0]->Count, 2);
     EXPECT_EQ(sets[0]->m_Conditions.at(1)->m_chLetter, 'C');
@@ -113,6 +114,7 @@ TEST_F(SavedConditionFileTest, DropsConditionsOnUnknownIndicators) {
     EXPECT_EQ(sets[2]->Exp, "A&B");
     EXPECT_EQ(sets[2]->Count, 1);
     EXPECT_EQ(sets[3]->Count, 0);
+    EXPECT_EQ(sets[4]->Exp, "()A") << "a bracket is no letter";
 }
 
 TEST_F(SavedConditionFileTest, FindsTheVersionInEitherForm) {

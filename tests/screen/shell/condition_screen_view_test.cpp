@@ -76,17 +76,31 @@ TEST(ConditionScreenTest, ListRequestCarriesUserAndFileVersion) {
     EXPECT_THAT(ToUtf8(host.questions.boxes[0].text), StartsWith("서버에서 저장조건을 불러올 수 없습니다."));
 }
 
+TEST(ConditionScreenTest, AFirmsSetWithAnUnknownIndicatorIsNotOffered) {
+    TestHost host;
+    WriteText(host.folder.Path() / "System/NorvikSaveIndex.dat",
+              std::string(kVendorText) +
+                  "[01]\r\nName=반쪽\r\nExp=A&B\r\nCount=2\r\n"
+                  "00=0601010008;A;1;0;;\r\n01=0999990008;B;1;0;;\r\n");
+    host.Open();
+    const QTreeWidgetItem* firm = host.Control<QTreeWidget>(21001).topLevelItem(1);
+    ASSERT_EQ(1, firm->childCount());
+    EXPECT_EQ("돌파", firm->child(0)->text(0));
+}
+
 TEST(ConditionScreenTest, UsersSetsComeWhenTheServerSaysThatTheyAreTheLatest) {
     TestHost host;
     WriteText(
         host.folder.Path() / "User/trader_SaveIndex.dat",
         "[Version]\r\nver=000.001\r\n\r\n[07]\r\nName=내조건\r\nTypePosition=0\r\nUpjong=1\r\nGroup=ALL|\r\n"
         "Except1=1\r\nMonth=3\r\nExp=A\r\nCount=1\r\n00=0601010008;A;1;0;;\r\n");
+    WriteProfileText(host.SettingsFile(), "SaveIndex", "ShowSequence", "1");
     host.Open();
     auto& tree = host.Control<QTreeWidget>(21001);
     EXPECT_EQ(0, tree.topLevelItem(0)->childCount());
     host.Reply("VE");
     ASSERT_EQ(1, tree.topLevelItem(0)->childCount());
+    EXPECT_EQ("[07]내조건", tree.topLevelItem(0)->child(0)->text(0));
 
     emit tree.itemDoubleClicked(tree.topLevelItem(0)->child(0), 0);
     EXPECT_EQ("내조건", TextOf(host, 21019));
@@ -252,9 +266,38 @@ TEST(ConditionScreenTest, SettingsBlockIsTakenOnlyWhenAgreed) {
     EXPECT_EQ(std::byte{1}, filled[0x78]);
 
     host::SendMessage(screen, host::kSettingsTaken, 0x0300, address);
+    host.links.tags.clear();  // logged off; the settings are still the trader's
     host.Close();
     EXPECT_EQ("5", ReadProfileText(host.SettingsFile(), "0150_PortInfo", "RegLink"));
     EXPECT_EQ("1", ReadProfileText(host.SettingsFile(), "0150_PortInfo", "ConfirmOverwrite"));
+}
+
+TEST(ConditionScreenTest, ChangedColorsReachTheRadioButtons) {
+    TestHost host;
+    host.Open();
+    host.colors.byIndex[0x34] = 0x0000ff;
+    host.Screen().ReadHostColors();
+    const QImage drawn = host.Control<QAbstractButton>(21028).grab().toImage();
+    EXPECT_EQ(QColor(255, 0, 0), drawn.pixelColor(drawn.width() - 1, 0));
+}
+
+TEST(ConditionScreenTest, ResultGridEndsAtTheViewsLastPixel) {
+    TestHost host;
+    host.Open();
+    auto& grid = host.Control<ResultGrid>(21104);
+    const QRect first = grid.geometry();
+    host.Screen().resize(400, 548);
+    EXPECT_EQ(QRect(first.topLeft(), QPoint(399, first.bottom())), grid.geometry());
+    host.Screen().resize(1000, 548);
+    EXPECT_EQ(first, grid.geometry());
+}
+
+TEST(ConditionScreenTest, HomeThatCannotBeLookedIntoOpensAnEmptyScreen) {
+    TestHost host;
+    WriteBytes(host.folder.Path() / "Norvik.ini", "[Path]\r\nHTSPATH=/" + std::string(5000, 'x') + "\r\n");
+    host.Open();
+    host.Reply("VE");
+    EXPECT_EQ(0, host.Control<QTreeWidget>(21001).topLevelItem(0)->childCount());
 }
 
 TEST(ConditionScreenTest, EnlargedExpressionCoversTheButtonRow) {

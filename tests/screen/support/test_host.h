@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QWidget>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -101,8 +102,11 @@ public:
 
     std::uint32_t GetColor(int index, int) override {
         journal_.push_back("color " + std::to_string(index));
-        return 0xf0f0f0;
+        const auto found = byIndex.find(index);
+        return found == byIndex.end() ? 0xf0f0f0 : found->second;
     }
+
+    std::map<int, std::uint32_t> byIndex;  // colours that are not the usual one
 
 private:
     Journal& journal_;
