@@ -62,6 +62,7 @@ int Demonstrate(Terminal& terminal, const QString& set, const QString& picture) 
     ScreenDriver screen(window);
     const QStringList sets = screen.SetNames();
     const QString name = set.isEmpty() ? sets.value(0) : set;
+    if (sets.isEmpty()) return Fail("the home folder has no condition sets");
     if (!screen.OpenSet(name)) return Fail("no condition set '" + name + "'; there are: " + sets.join(", "));
     screen.Search();
     if (!WaitForAnswers(terminal)) return Fail("the search service does not answer");
@@ -69,7 +70,9 @@ int Demonstrate(Terminal& terminal, const QString& set, const QString& picture) 
     QDir().mkpath(QFileInfo(picture).absolutePath());
     if (!window.grab().save(picture)) return Fail(picture + ": can't be written");
     std::printf("조건: %s\n", name.toUtf8().constData());
-    PrintRows(screen.Rows(kShownRows));
+    const QList<QStringList> rows = screen.Rows(kShownRows);
+    PrintRows(rows);
+    if (rows.size() < 2) std::printf("no stock matches\n");
     std::printf("picture: %s\n", QFileInfo(picture).absoluteFilePath().toUtf8().constData());
     return 0;
 }

@@ -4,8 +4,9 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QSaveFile>
 #include <QStandardPaths>
+
+#include "screen/files/atomic_file.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -31,9 +32,8 @@ QByteArray ReadAll(const QString& path) {
 }
 
 void Replace(const QString& path, const QByteArray& content) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        throw HomeError(path.toStdString() + ": can't be written: " + file.errorString().toStdString());
+    if (!WriteFileAtomically(QFile::encodeName(path).toStdString(), content.toStdString())) {
+        throw HomeError(path.toStdString() + ": can't be written");
     }
 }
 
@@ -41,17 +41,25 @@ void MakeFolder(const QString& path) {
     if (!QDir().mkpath(path)) throw HomeError(path.toStdString() + ": can't be made");
 }
 
-void LayDown(const QString& shipped, const QString& home, bool replaceOld) {
+// Copies what is missing or differs; the files that differ and stay are returned.
+QStringList LayDown(const QString& shipped, const QString& home, bool replaceOld) {
+    QStringList kept;
     QDirIterator files(shipped, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString source = files.next();
         const QString target = QDir(home).filePath(QDir(shipped).relativeFilePath(source));
-        if (QFile::exists(target) && !replaceOld) continue;
         const QByteArray content = ReadAll(source);
-        if (QFile::exists(target) && ReadAll(target) == content) continue;
+        if (QFileInfo::exists(target)) {
+            if (ReadAll(target) == content) continue;
+            if (!replaceOld) {
+                kept.append(target);
+                continue;
+            }
+        }
         MakeFolder(QFileInfo(target).path());
         Replace(target, content);
     }
+    return kept;
 }
 
 }  // namespace
@@ -66,7 +74,7 @@ HomeFolder PrepareHome(const QString& chosen) {
     }
     MakeFolder(folder.path + "/User");
     MakeFolder(folder.configuration);
-    LayDown(ShippedData(), folder.path, chosen.isEmpty());
+    folder.kept = LayDown(ShippedData(), folder.path, chosen.isEmpty());
     Replace(folder.configuration + "/Norvik.ini", "[Path]\r\nHTSPATH=" + folder.path.toLocal8Bit() + "\r\n");
     return folder;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <stdexcept>
 
 namespace jogeon::terminal {
@@ -16,11 +17,13 @@ public:
 struct HomeFolder {
     QString path;           // the home
     QString configuration;  // the folder of Norvik.ini, which names the home
+    QStringList kept;       // data files of a chosen home that differ from the shipped ones
 };
 
 // Lays the shipped data files down in `chosen`, or in the user's own data folder if that is empty, and writes
 // the configuration. In the user's own folder a shipped file that differs is replaced, as after an upgrade;
-// in a chosen one it is left as it is. Files in "User" are never touched. Throws HomeError.
+// in a chosen one it is left as it is and named in `kept`. Files in "User" are never touched. Throws
+// HomeError.
 HomeFolder PrepareHome(const QString& chosen);
 
 }  // namespace jogeon::terminal

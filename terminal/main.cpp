@@ -36,16 +36,22 @@ int Start(const Options& options) {
     return QApplication::exec();
 }
 
+// Read before there is a window system to connect to: help needs none.
+std::optional<Options> ReadArguments(int argc, char** argv, int* status) {
+    const QCoreApplication application(argc, argv);
+    return ReadOptions(QCoreApplication::arguments(), status);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName("jogeon");
+    int status = 0;
+    const std::optional<Options> options = ReadArguments(argc, argv, &status);
+    if (!options) return status;
     QApplication application(argc, argv);
-    QApplication::setApplicationName("jogeon");
     QApplication::setStyle("Fusion");
     ChooseFont();
-    int status = 0;
-    const std::optional<Options> options = ReadOptions(QApplication::arguments(), &status);
-    if (!options) return status;
     try {
         return Start(*options);
     } catch (const std::exception& error) {

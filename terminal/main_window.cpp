@@ -49,7 +49,9 @@ void MainWindow::BuildStatusLine(const QString& user, const market::Market& mark
     auto* marketLabel = new QLabel(MarketLine(market), this);
     marketLabel->setObjectName("marketLine");
     statusBar()->addWidget(marketLabel, 1);
-    statusBar()->addPermanentWidget(new QLabel("사용자 " + user, this));
+    auto* userLabel = new QLabel("사용자 " + user, this);
+    userLabel->setContentsMargins(0, 0, 6, 0);
+    statusBar()->addPermanentWidget(userLabel);
     statusBar()->setSizeGripEnabled(false);
 }
 

@@ -34,6 +34,9 @@ Terminal::Terminal(const Options& options)
       codeLists_(service_, options.user.toStdString()),
       module_(ScreenModule::DefaultPath()),
       window_(options.user, *market_) {
+    for (const QString& file : home_.kept) {
+        PrintLine(file.toStdString() + ": differs from the one that comes with jogeon, and is used as it is");
+    }
     if (options.demonstrate.isEmpty()) {
         questions_ = std::make_unique<MessageBoxes>(window_);
     } else {

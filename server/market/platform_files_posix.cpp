@@ -72,6 +72,10 @@ void ReplacingFile::Fail(const char* what) const {
 
 void ReplacingFile::Open() {
     if (std::filesystem::is_directory(path_)) throw MarketError(path_.string() + ": is a folder");
+    // A device or a pipe would be renamed over, not written to.
+    if (std::filesystem::exists(path_) && !std::filesystem::is_regular_file(path_)) {
+        throw MarketError(path_.string() + ": is no ordinary file");
+    }
 #ifdef O_TMPFILE
     file_ = open(FolderOf(path_).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kMode);
     if (file_ >= 0) return;

@@ -63,7 +63,12 @@ host::Answer MessageBoxes::Ask(const host::Box& box) {
 }
 
 bool MessageBoxes::Run(const std::string&, void* object) {
-    return static_cast<QDialog*>(object)->exec() == QDialog::Accepted;
+    auto* dialog = static_cast<QDialog*>(object);
+    // A dialog without a place of its own stands in the middle of the window.
+    if (!dialog->testAttribute(Qt::WA_Moved)) {
+        dialog->move(mainWindow_.frameGeometry().center() - dialog->rect().center());
+    }
+    return dialog->exec() == QDialog::Accepted;
 }
 
 host::Answer PrintedQuestions::Ask(const host::Box& box) {

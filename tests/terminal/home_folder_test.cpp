@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "screen/files/atomic_file.h"
+
 namespace jogeon::terminal {
 namespace {
 
@@ -32,10 +34,21 @@ TEST(HomeFolderTest, AChosenHomeIsFilledButWhatIsThereStays) {
     Write(home + "/System/XcsFid.dat", "mine");
     Write(home + "/User/x_SaveIndex0.dat", "mine too");
     QFile::remove(home + "/System/S4TreeList.dat");
-    PrepareHome(home);
+    EXPECT_EQ(QStringList(home + "/System/XcsFid.dat"), PrepareHome(home).kept);
     EXPECT_EQ("mine", Content(home + "/System/XcsFid.dat"));
     EXPECT_EQ("mine too", Content(home + "/User/x_SaveIndex0.dat"));
     EXPECT_FALSE(Content(home + "/System/S4TreeList.dat").isEmpty());
+}
+
+TEST(HomeFolderTest, AFullDiskLeavesNoHalfFile) {
+    QTemporaryDir folder;
+    const HomeFolder home = PrepareHome(folder.path());
+    const QByteArray before = Content(home.configuration + "/Norvik.ini");
+    QFile::remove(home.path + "/System/S4TreeList.dat");
+    const FileFault full(FileStep::Write, 10);
+    EXPECT_THROW(PrepareHome(folder.path()), HomeError);
+    EXPECT_FALSE(QFile::exists(home.path + "/System/S4TreeList.dat"));
+    EXPECT_EQ(before, Content(home.configuration + "/Norvik.ini"));
 }
 
 TEST(HomeFolderTest, AHomeThatCantBeMadeIsNamed) {

@@ -10,7 +10,7 @@ namespace jogeon {
 namespace {
 
 constexpr std::string_view kHomeVariable = "JOGEON_HOME_DATA";
-constexpr std::string_view kDefaultUser = "nv3787";
+constexpr std::string_view kDefaultUser = "guest";
 constexpr std::size_t kMaxUserId = 8;
 
 constexpr OptionSpec kOptions[] = {{"--market"}, {"--set"},  {"--conditions"}, {"--user"},
@@ -54,11 +54,11 @@ const char kSearchHelp[] =
 Searches a market with a set of conditions and prints the stocks that match. A set that names no target is
 searched in all sectors.
 
-  --set NAME         a saved set of the user's or of the catalogue, by its name or by its number
+  --set NAME         a saved set of the user's or of the catalogue, by its name; a user's own also by its number
   --conditions FILE  a file with one set, in the form of the saved-condition file (CP949)
   --market FILE      the market file to search; without it, a generated market
   --date YYYY-MM-DD  search the market as it stood at the end of that day
-  --user ID          whose saved sets, groups and accounts count (nv3787)
+  --user ID          whose saved sets, groups and accounts count (guest)
   --home DIR         the folder that has System and User in it; JOGEON_HOME_DATA says it too
   --format FORM      table, csv or json (table)
 

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "tests/tools/jogeond/run_jogeond.h"
@@ -52,6 +53,7 @@ protected:
 
 TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
     const std::string bars = At("bars.csv");
+    ASSERT_EQ(mkfifo(At("pipe").c_str(), 0600), 0);
     const std::pair<std::string, const char*> cases[] = {
         {"", "--out FILE is missing"},
         {bars, "--out FILE is missing"},
@@ -60,6 +62,7 @@ TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
         {"--out " + At("m") + " --fast " + bars, "unknown option --fast"},
         {"--out " + At("m") + " --max-rejects -1 " + bars, "number from 0 up, not \"-1\""},
         {"--out " + At("m") + " --max-rejects=2x " + bars, "number from 0 up, not \"2x\""},
+        {"--out " + At("pipe") + " " + bars, "pipe: is no ordinary file"},
         {"--out " + At("m") + " --symbols " + At("none.csv") + " " + bars, "none.csv: can't be opened"},
         {"--out " + At("no/folder/m") + " " + bars, "can't be written"},
         {"--out " + bars + " " + bars, "one of the files to read"},
