@@ -7,6 +7,11 @@
 namespace jogeon::engine {
 namespace {
 
+// Control characters, blanks and the bytes of Korean text: what the check of the expression box passes over.
+bool IsPassedOver(char c) {
+    return static_cast<signed char>(c) <= ' ';
+}
+
 bool IsLetter(char c) {
     return c >= 'A' && c <= 'Z';
 }
@@ -106,7 +111,7 @@ Truth Or(const Truth& a, const Truth& b) {
 std::optional<Expression> Expression::Parse(std::string_view compact) {
     PostfixBuilder builder;
     for (char c : compact)
-        if (!builder.Take(c)) return std::nullopt;
+        if (!IsPassedOver(c) && !builder.Take(c)) return std::nullopt;
     Expression parsed;
     parsed.postfix_ = builder.Finish();
     if (parsed.postfix_.empty()) return std::nullopt;

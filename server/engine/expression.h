@@ -22,7 +22,8 @@ struct Truth {
 
 class Expression {
 public:
-    // None unless the whole of `compact` is one expression; blanks and small letters are no part of the form.
+    // None unless the whole of `compact` is one expression. Bytes that the expression box lets pass unseen
+    // are passed over here as well; small letters are no part of the form.
     static std::optional<Expression> Parse(std::string_view compact);
 
     // The letters that occur, each once, in alphabetical order.

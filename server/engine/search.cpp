@@ -23,7 +23,7 @@ struct Step {
 
 Expression ParseExpression(const std::string& text) {
     std::optional<Expression> parsed = Expression::Parse(text);
-    if (!parsed) throw BadSearch("\"" + text + "\" is no expression over condition letters");
+    if (!parsed) throw BadSearch(Quoted(text) + " is no expression over condition letters");
     return *std::move(parsed);
 }
 
@@ -33,10 +33,10 @@ std::map<char, Step> PlanSteps(const SearchOrder& order, const Expression& expre
         if (!condition.inUse) continue;
         const Indicator* indicator = FindIndicator(condition.key);
         if (!indicator || indicator->family != condition.family)
-            throw BadSearch("there is no indicator \"" + condition.key + "\"");
+            throw BadSearch("there is no indicator " + Quoted(condition.key));
         const bool needed = expression.Letters().find(condition.letter) != std::string::npos;
         if (!steps.emplace(condition.letter, Step{&condition, indicator, needed}).second)
-            throw BadSearch(std::string("condition ") + condition.letter + " is given twice");
+            throw BadSearch("condition " + Quoted({&condition.letter, 1}) + " is given twice");
     }
     for (char letter : expression.Letters())
         if (!steps.count(letter)) throw BadSearch(std::string("there is no condition ") + letter);

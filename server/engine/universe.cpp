@@ -20,7 +20,7 @@ constexpr int kHoldingsOnly = 2;
 constexpr int kMaxKind = 3;
 
 [[noreturn]] void UnknownGroup(std::string_view code) {
-    throw BadSearch("there is no group \"" + std::string(code) + "\"");
+    throw BadSearch("there is no group " + Quoted(code));
 }
 
 void DemandCodes(const TargetFields& target) {
@@ -62,7 +62,7 @@ BitSet PortfolioUniverse(const UserGroups& user, const TargetFields& target, std
     if (target.Portfolio != kHoldingsOnly) universe |= InterestUniverse(user, target, stocks);
     if (target.Portfolio != kInterestsOnly) {
         const Account* account = user.FindAccount(target.Acc);
-        if (!account) throw BadSearch("there is no account \"" + target.Acc + "\"");
+        if (!account) throw BadSearch("there is no account " + Quoted(target.Acc));
         universe |= account->holdings;
     }
     return target.Except10 ? ~universe : universe;
@@ -102,6 +102,13 @@ bool IsExcluded(const Market& market, std::size_t stock, const TargetFields& tar
 }
 
 }  // namespace
+
+std::string Quoted(std::string_view bytes) {
+    std::string text(bytes);
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
+    return '"' + text + '"';
+}
 
 BitSet BuildUniverse(const Market& market, const MarketGroups& groups, const UserGroups& user,
                      const TargetFields& target) {

@@ -6,6 +6,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "screen/condition/target_fields.h"
@@ -19,6 +20,9 @@ class BadSearch : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+// Bytes of a request between quotes, fit for that line: what isn't printable ASCII stands there as '?'.
+std::string Quoted(std::string_view bytes);
 
 // What a search starts from: every stock, or the stocks inside or outside an earlier result.
 enum class Scope { Whole, Within, Outside };

@@ -32,7 +32,7 @@ public:
         const std::string_view digits = Take(width);
         const bool ok =
             std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-        if (!ok) throw BadSearch("\"" + std::string(digits) + "\" is no number");
+        if (!ok) throw BadSearch(engine::Quoted(digits) + " is no number");
         return Atoi(digits);
     }
 
@@ -53,7 +53,7 @@ Scope ReadScope(std::string_view field) {
     if (field == "0") return Scope::Whole;
     if (field == "1") return Scope::Within;
     if (field == "2") return Scope::Outside;
-    throw BadSearch("\"" + std::string(field) + "\" is no scope");
+    throw BadSearch(engine::Quoted(field) + " is no scope");
 }
 
 // The header's own reading takes an unknown month code for every month, which is another search.

@@ -36,14 +36,21 @@ TEST(ExpressionTest, EvaluatesWithThreeValues) {
         const char* expected;
     };
     const Case cases[] = {
-        {"A", "TTTFFFUUU"},           {"!A", "FFFTTTUUU"},
-        {"!!A", "TTTFFFUUU"},         {"A&B", "TFUFFFUFU"},
-        {"A|B", "TTTTFUTUU"},         {"A|!A", "TTTTTTUUU"},  // not everything: unknown stays unknown
-        {"A&!A", "FFFFFFUUU"},        {"!(A&B)", "FTUTTTUTU"},
+        {"A", "TTTFFFUUU"},
+        {"!A", "FFFTTTUUU"},
+        {"!!A", "TTTFFFUUU"},
+        {"A&B", "TFUFFFUFU"},
+        {"A|B", "TTTTFUTUU"},
+        {"A|!A", "TTTTTTUUU"},  // not everything: unknown stays unknown
+        {"A&!A", "FFFFFFUUU"},
+        {"!(A&B)", "FTUTTTUTU"},
         {"!A&B", "FFFTFUUFU"},   // not binds before and
         {"A|B&C", "TTTFFUTUU"},  // and before or
-        {"B&C|A", "TTTFFUTUU"},       {"(A|B)&C", "FFFFFUTUU"},
-        {"!(A|B)&!(C)", "FFFFFFFFU"}, {"((A))", "TTTFFFUUU"},
+        {"B&C|A", "TTTFFUTUU"},
+        {"(A|B)&C", "FFFFFUTUU"},
+        {"!(A|B)&!(C)", "FFFFFFFFU"},
+        {"((A))", "TTTFFFUUU"},
+        {"A\n&\xb0\xa1 B\t", "TFUFFFUFU"},  // a line end, a Korean letter, a blank
     };
     for (const Case& c : cases) {
         const std::optional<Expression> parsed = Expression::Parse(c.expression);
@@ -55,9 +62,8 @@ TEST(ExpressionTest, EvaluatesWithThreeValues) {
 }
 
 TEST(ExpressionTest, RefusesWhatIsNoExpression) {
-    for (const char* text :
-         {"",   "a",  " A",  "A B",  "AB",   "A&",  "&A", "A&&B", "A!",    "!",      "()",
-          "(A", "A)", ")A(", "(A)B", "A(B)", "A!B", "A|", "1",    "A & B", "A&(B|)", "A&!"})
+    for (const char* text : {"",   "a",  " ",   "A B",  "AB",   "A&",  "&A", "A&&B", "A!",     "!",  "()",
+                             "(A", "A)", ")A(", "(A)B", "A(B)", "A!B", "A|", "1",    "A&(B|)", "A&!"})
         EXPECT_FALSE(Expression::Parse(text)) << text;
 }
 

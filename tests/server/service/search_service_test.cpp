@@ -174,6 +174,11 @@ TEST_F(SearchServiceTest, WhatCantBeEvaluatedFails) {
     }
 }
 
+TEST_F(SearchServiceTest, ReasonOfAFailureIsOneLineWhateverTheRequestHolds) {
+    Ask(SearchPayload({.header = Header("A&&\xb0\xa1\r\nB", "01"), .blocks = PriceBlock('A', "0", "9")}));
+    EXPECT_EQ(failure, "\"A&&????B\" is no expression over condition letters");
+}
+
 TEST_F(SearchServiceTest, EmptyResultIsNoFailure) {
     EXPECT_EQ(Ask(SearchPayload({.header = Header("A", "01"), .blocks = PriceBlock('A', "1", "2")})),
               "T1        "
