@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <span>
 
 #include "screen/text/bytes.h"
@@ -64,14 +65,25 @@ BitSet StocksWhere(const Market& market, const std::function<bool(std::size_t)>&
     return stocks;
 }
 
+// The stocks by the text of their industry, which many of them share.
+std::map<std::string_view, BitSet> StocksByIndustry(const Market& market) {
+    const std::vector<Instrument>& all = market.Instruments();
+    std::map<std::string_view, BitSet> industries;
+    for (std::size_t stock = 0; stock < all.size(); ++stock)
+        industries.try_emplace(all[stock].industry, all.size()).first->second.Set(stock);
+    return industries;
+}
+
 GroupList ExampleThemes(const Market& market) {
+    const std::map<std::string_view, BitSet> industries = StocksByIndustry(market);
     GroupList groups;
     for (std::size_t i = 0; i < std::size(kThemes); ++i) {
         const ThemeRule& rule = kThemes[i];
         BitSet members = StocksWhere(market, [&](std::size_t stock) {
-            const Instrument& known = market.Instruments()[stock];
-            return HasOneOf(known.industry, rule.industries) || HasOneOf(known.name, rule.names);
+            return HasOneOf(market.Instruments()[stock].name, rule.names);
         });
+        for (const auto& [industry, stocks] : industries)
+            if (HasOneOf(industry, rule.industries)) members |= stocks;
         // The code is the rule's own place in the table, whichever themes this market has stocks for.
         if (members.Count())
             groups.push_back({"6" + ZeroPadded(static_cast<int>(i) + 1, 2), std::string(rule.name), members});
@@ -87,23 +99,28 @@ BitSet Places(const std::vector<std::size_t>& ranked, std::size_t stocks,
     return some;
 }
 
-BitSet Largest(const Market& market, std::vector<std::size_t> ranked,
-               const std::function<double(std::size_t)>& measure) {
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [&](std::size_t a, std::size_t b) { return measure(a) > measure(b); });
-    BitSet some(market.Instruments().size());
-    for (std::size_t i = 0; i < std::min(kExampleSize, ranked.size()); ++i) some.Set(ranked[i]);
+// The first stocks of an order.
+BitSet First(const std::vector<std::size_t>& order, std::size_t stocks) {
+    BitSet some(stocks);
+    for (std::size_t i = 0; i < std::min(kExampleSize, order.size()); ++i) some.Set(order[i]);
     return some;
 }
 
+// `ranked` in order of the last day's turnover, the largest first.
+std::vector<std::size_t> ByTurnover(const Market& market, std::vector<std::size_t> ranked) {
+    std::vector<double> turnover(market.Instruments().size());  // beforehand, as sorting asks again and again
+    for (std::size_t stock : ranked)
+        turnover[stock] =
+            DayValue(market, PriceField::Close, stock) * DayValue(market, PriceField::Volume, stock);
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [&](std::size_t a, std::size_t b) { return turnover[a] > turnover[b]; });
+    return ranked;
+}
+
 GroupList ExampleInterests(const Market& market, const std::vector<std::size_t>& ranked) {
-    const auto turnover = [&](std::size_t stock) {
-        return DayValue(market, PriceField::Close, stock) * DayValue(market, PriceField::Volume, stock);
-    };
-    BitSet large(market.Instruments().size());
-    for (std::size_t i = 0; i < std::min(kExampleSize, ranked.size()); ++i) large.Set(ranked[i]);
-    return {{"501", "대형주", large},
-            {"502", "거래대금 상위", Largest(market, ranked, turnover)},
+    const std::size_t stocks = market.Instruments().size();
+    return {{"501", "대형주", First(ranked, stocks)},
+            {"502", "거래대금 상위", First(ByTurnover(market, ranked), stocks)},
             {"503", "저가주", StocksWhere(market, [&](std::size_t stock) {
                  return DayValue(market, PriceField::Close, stock) < kLowPrice;
              })}};

@@ -15,11 +15,14 @@ Lines ConvergenceAndSignal(const Bars& bars, std::size_t instruments, int bar, s
     Smoother slow = Smoother::Exponential(instruments, periods[1]);
     Smoother signal = Smoother::Exponential(instruments, periods[2]);
     Column difference;
-    return WalkTo<2>(bar, instruments, [&](int b) -> std::array<const Column*, 2> {
+    const auto step = [&](int b) {
         const std::span<const double> close = bars.Row(PriceField::Close, b);
-        difference = Combine(fast.Add(close), slow.Add(close), std::minus<>());
-        return {&difference, &signal.Add(difference)};
-    });
+        fast.Add(close);
+        slow.Add(close);
+        difference = Combine(fast.Averages(), slow.Averages(), std::minus<>());
+        signal.Add(difference);
+    };
+    return WalkTo<2>(bar, instruments, step, [&] { return std::array{difference, signal.Averages()}; });
 }
 
 Verdict EvaluateMacd(MarketDay& day, const DecodedBlock& condition) {

@@ -21,10 +21,10 @@ std::shared_ptr<const Line> MovingAverage(MarketDay& day, const Place& place, in
     return PickLine(day.Get({"exponential average", {n}, place.timeframe, place.bar},
                             [&] {
                                 Smoother smoother = Smoother::Exponential(day.Instruments(), n);
-                                return WalkTo<1>(place.bar, day.Instruments(),
-                                                 [&](int bar) -> std::array<const Column*, 1> {
-                                                     return {&smoother.Add(bars.Row(PriceField::Close, bar))};
-                                                 });
+                                return WalkTo<1>(
+                                    place.bar, day.Instruments(),
+                                    [&](int bar) { smoother.Add(bars.Row(PriceField::Close, bar)); },
+                                    [&] { return std::array{smoother.Averages()}; });
                             }),
                     0);
 }

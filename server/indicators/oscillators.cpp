@@ -16,18 +16,23 @@ namespace {
 Lines RelativeStrength(const Bars& bars, std::size_t instruments, int bar, int n) {
     Smoother gains = Smoother::Wilder(instruments, n);
     Smoother losses = Smoother::Wilder(instruments, n);
-    Column gain(instruments, kMissing), loss(instruments, kMissing), strength(instruments);
-    return WalkTo<1>(bar, instruments, [&](int b) -> std::array<const Column*, 1> {
+    Column gain(instruments), loss(instruments);
+    const auto step = [&](int b) {
+        if (b == 0) return;  // a change needs two closes
         const std::span<const double> close = bars.Row(PriceField::Close, b);
-        const std::span<const double> previous = b ? bars.Row(PriceField::Close, b - 1) : close;
-        for (std::size_t i = 0; i < instruments; ++i) {
-            const double change = b ? close[i] - previous[i] : kMissing;
+        const std::span<const double> previous = bars.Row(PriceField::Close, b - 1);
+        for (std::size_t i = 0; i < close.size(); ++i) {
+            const double change = close[i] - previous[i];
+            const double fall = -change;
             gain[i] = change < 0 ? 0 : change;
-            loss[i] = change > 0 ? 0 : -change;
+            loss[i] = fall < 0 ? 0 : fall;
         }
-        strength = Combine(gains.Add(gain), losses.Add(loss),
-                           [](double up, double down) { return Ratio(100 * up, up + down); });
-        return {&strength};
+        gains.Add(gain);
+        losses.Add(loss);
+    };
+    return WalkTo<1>(bar, instruments, step, [&] {
+        return std::array{Combine(gains.Averages(), losses.Averages(),
+                                  [](double up, double down) { return Ratio(100 * up, up + down); })};
     });
 }
 
@@ -111,11 +116,10 @@ Column CommodityChannel(const Bars& bars, int bar, int n) {
 }
 
 // The close of the bar, and that of n bars before, in one unbroken run.
-Column RateOfChange(MarketDay& day, Timeframe timeframe, int bar, int n) {
-    const Bars& bars = day.GetMarket().BarsOf(timeframe);
-    const Column change = Combine(ColumnAt(bars, PriceField::Close, bar),
-                                  ColumnAt(bars, PriceField::Close, bar - n), PercentChange);
-    return OnlyUnbroken(day, timeframe, bar, n + 1, change);
+Column RateOfChange(const Bars& bars, int bar, int n) {
+    Column change = Combine(ColumnAt(bars, PriceField::Close, bar),
+                            ColumnAt(bars, PriceField::Close, bar - n), PercentChange);
+    return OnlyUnbroken(bars, bar, n + 1, std::move(change));
 }
 
 // What the three indicators of a window have in common: a line from `at`(n, bar), compared with a level.
@@ -153,7 +157,7 @@ Verdict EvaluateWilliams(MarketDay& day, const DecodedBlock& condition) {
 // 010206
 Verdict EvaluateRateOfChange(MarketDay& day, const DecodedBlock& condition) {
     return EvaluateWindow(day, condition, "roc", [&](Timeframe timeframe, int bar, int n) {
-        return RateOfChange(day, timeframe, bar, n);
+        return RateOfChange(day.GetMarket().BarsOf(timeframe), bar, n);
     });
 }
 

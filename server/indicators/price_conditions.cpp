@@ -38,10 +38,13 @@ Verdict EvaluatePriceRange(MarketDay& day, const DecodedBlock& condition) {
 
 // The close against that of n bars before, in percent.
 Column ChangeOver(MarketDay& day, const Place& place, int n) {
-    const Bars& bars = BarsAt(day, place);
-    const Column change = Combine(ColumnAt(bars, PriceField::Close, place.bar),
-                                  ColumnAt(bars, PriceField::Close, place.bar - n), PercentChange);
-    return OnlyUnbroken(day, place.timeframe, place.bar, n + 1, change);
+    const auto lines = day.Get({"change", {n}, place.timeframe, place.bar}, [&] {
+        const Bars& bars = BarsAt(day, place);
+        Column change = Combine(ColumnAt(bars, PriceField::Close, place.bar),
+                                ColumnAt(bars, PriceField::Close, place.bar - n), PercentChange);
+        return Lines{{OnlyUnbroken(bars, place.bar, n + 1, std::move(change)), {}}};
+    });
+    return lines->front().now;
 }
 
 // 040103
@@ -77,14 +80,13 @@ Verdict EvaluateStreak(MarketDay& day, const DecodedBlock& condition) {
     const bool rising = parameters.Variant() == 0;
     const Bars& bars = BarsAt(day, place);
     Column streak(day.Instruments());
-    const auto lines = WalkTo<1>(place.bar, day.Instruments(), [&](int b) -> std::array<const Column*, 1> {
+    for (int b = 0; b <= place.bar; ++b) {
         const auto close = bars.Row(PriceField::Close, b);
         const auto before = bars.Row(PriceField::Close, b ? b - 1 : b);
         for (std::size_t i = 0; i < streak.size(); ++i)
             streak[i] = (rising ? close[i] > before[i] : close[i] < before[i]) ? streak[i] + 1 : 0;
-        return {&streak};
-    });
-    const Column length = OnlyUnbroken(day, place.timeframe, place.bar, n + 1, lines.front().now);
+    }
+    const Column length = OnlyUnbroken(bars, place.bar, n + 1, std::move(streak));
     return Judge(length, {}, [&](std::size_t i) { return length[i] >= n; });
 }
 

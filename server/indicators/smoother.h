@@ -18,8 +18,11 @@ public:
     // alpha 1 / n. J. W. Wilder, New Concepts in Technical Trading Systems, 1978.
     static Smoother Wilder(std::size_t instruments, int n) { return {instruments, n, 1.0 / n}; }
 
-    // The averages after one more row; they live until the next call.
-    const Column& Add(std::span<const double> row);
+    // Takes in one more row.
+    void Add(std::span<const double> row);
+
+    // The averages after the last row, missing where the run is shorter than n.
+    Column Averages() const;
 
 private:
     Smoother(std::size_t instruments, int n, double alpha);
@@ -27,8 +30,7 @@ private:
     double period_;
     double alpha_;
     Column count_;  // values in the run so far
-    Column sum_;    // of the run's first values
-    Column average_;
+    Column level_;  // their sum up to the n-th, then the average
 };
 
 }  // namespace jogeon::indicators

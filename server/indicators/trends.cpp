@@ -75,16 +75,22 @@ struct Movement {
 Lines DirectionalMovement(const Bars& bars, std::size_t instruments, int bar, int n) {
     Smoother plus = Smoother::Wilder(instruments, n), minus = plus, range = plus, average = plus;
     Movement movement(instruments);
-    Column plusIndex, minusIndex, index;
-    return WalkTo<3>(bar, instruments, [&](int b) -> std::array<const Column*, 3> {
+    Column plusIndex, minusIndex;
+    const auto percent = [](double part, double whole) { return Ratio(100 * part, whole); };
+    const auto step = [&](int b) {
         movement.Set(bars, b);
-        const Column& trueRange = range.Add(movement.range);
-        const auto percent = [](double part, double whole) { return Ratio(100 * part, whole); };
-        plusIndex = Combine(plus.Add(movement.plus), trueRange, percent);
-        minusIndex = Combine(minus.Add(movement.minus), trueRange, percent);
-        index = Combine(plusIndex, minusIndex,
-                        [](double up, double down) { return Ratio(100 * std::abs(up - down), up + down); });
-        return {&plusIndex, &minusIndex, &average.Add(index)};
+        plus.Add(movement.plus);
+        minus.Add(movement.minus);
+        range.Add(movement.range);
+        const Column trueRange = range.Averages();
+        plusIndex = Combine(plus.Averages(), trueRange, percent);
+        minusIndex = Combine(minus.Averages(), trueRange, percent);
+        average.Add(Combine(plusIndex, minusIndex, [](double up, double down) {
+            return Ratio(100 * std::abs(up - down), up + down);
+        }));
+    };
+    return WalkTo<3>(bar, instruments, step, [&] {
+        return std::array{plusIndex, minusIndex, average.Averages()};
     });
 }
 
@@ -140,8 +146,11 @@ Verdict JudgeCloud(MarketDay& day, const Place& place, std::array<int, 3> period
                 [&, c = conversion, b = base, s = span] { return LeadingSpans(bars, then, c, b, s); });
     const Column &first = (*spans)[0].now, &second = (*spans)[1].now;
     const int needed = base + std::max({conversion, base, span});
-    const Column close =
-        OnlyUnbroken(day, place.timeframe, place.bar, needed, ColumnAt(bars, PriceField::Close, place.bar));
+    const auto closes = day.Get({"unbroken close", {needed}, place.timeframe, place.bar}, [&] {
+        return Lines{
+            {OnlyUnbroken(bars, place.bar, needed, ColumnAt(bars, PriceField::Close, place.bar)), {}}};
+    });
+    const Column& close = closes->front().now;
     return Judge(close, {&first, &second}, [&](std::size_t i) {
         return above ? close[i] > std::max(first[i], second[i]) : close[i] < std::min(first[i], second[i]);
     });

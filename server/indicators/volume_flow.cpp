@@ -55,17 +55,19 @@ void AddBalance(const Bars& bars, int bar, Column& balance) {
 
 // On-balance volume and its mean over n bars.
 Lines BalanceAndMean(const Bars& bars, std::size_t instruments, int bar, int n) {
+    const std::size_t period = static_cast<std::size_t>(n);
     std::deque<Column> balances;  // the last n
-    Column balance(instruments, kMissing), mean;
-    return WalkTo<2>(bar, instruments, [&](int b) -> std::array<const Column*, 2> {
+    Column balance(instruments, kMissing);
+    const auto step = [&](int b) {
         AddBalance(bars, b, balance);
         balances.push_back(balance);
-        if (balances.size() > static_cast<std::size_t>(n)) balances.pop_front();
-        mean.assign(instruments, balances.size() == static_cast<std::size_t>(n) ? 0 : kMissing);
-        if (b >= bar - 1)  // nobody sees the earlier ones
-            for (const Column& one : balances) mean = Combine(mean, one, std::plus<>());
+        if (balances.size() > period) balances.pop_front();
+    };
+    return WalkTo<2>(bar, instruments, step, [&] {
+        Column mean(instruments, balances.size() == period ? 0 : kMissing);
+        for (const Column& one : balances) mean = Combine(mean, one, std::plus<>());
         for (double& value : mean) value /= n;
-        return {&balance, &mean};
+        return std::array{balance, mean};
     });
 }
 

@@ -55,23 +55,14 @@ Column Deviation(const Bars& bars, PriceField field, int bar, int n) {
                    [n](double sum, double known) { return known == known ? std::sqrt(sum / n) : kMissing; });
 }
 
-std::shared_ptr<const Lines> RunLength(MarketDay& day, Timeframe timeframe, int bar) {
-    return day.Get({"run length", {}, timeframe, bar}, [&] {
-        const Bars& bars = day.GetMarket().BarsOf(timeframe);
-        Column length(day.Instruments());
-        return WalkTo<1>(bar, day.Instruments(), [&](int b) -> std::array<const Column*, 1> {
-            const std::span<const double> close = bars.Row(PriceField::Close, b);
-            for (std::size_t i = 0; i < close.size(); ++i)
-                length[i] = close[i] == close[i] ? length[i] + 1 : 0;
-            return {&length};
-        });
-    });
-}
-
-Column OnlyUnbroken(MarketDay& day, Timeframe timeframe, int bar, int n, const Column& column) {
-    const auto run = RunLength(day, timeframe, bar);
-    return Combine(column, run->front().now,
-                   [n](double value, double length) { return length >= n ? value : kMissing; });
+Column OnlyUnbroken(const Bars& bars, int bar, int n, Column column) {
+    if (bar < n - 1) return ColumnAt(bars, PriceField::Close, -1);
+    for (int b = bar - n + 1; b <= bar; ++b) {
+        const std::span<const double> close = bars.Row(PriceField::Close, b);
+        for (std::size_t i = 0; i < close.size(); ++i)
+            column[i] = close[i] == close[i] ? column[i] : kMissing;
+    }
+    return column;
 }
 
 }  // namespace jogeon::indicators

@@ -1,8 +1,11 @@
-// Columns over a window of bars: mean, extremes, deviation, and the length of the unbroken run.
+// Columns over a window of bars: mean, extremes, deviation, and whether a window is unbroken.
 //
 // A window is the n bars that end at a bar; where one of them is missing or lies before the first bar, the
 // result is missing.
 #pragma once
+
+#include <array>
+#include <utility>
 
 #include "server/indicators/market_day.h"
 
@@ -21,11 +24,8 @@ Column Lowest(const Bars& bars, PriceField field, int bar, int n);
 // Standard deviation of the whole window: the mean of the squares is taken over n, not n - 1.
 Column Deviation(const Bars& bars, PriceField field, int bar, int n);
 
-// How many known bars end at `bar` without a gap between them; 0 where it is missing itself.
-std::shared_ptr<const Lines> RunLength(MarketDay& day, Timeframe timeframe, int bar);
-
 // `column`, missing where fewer than `n` bars end at `bar` without a gap.
-Column OnlyUnbroken(MarketDay& day, Timeframe timeframe, int bar, int n, const Column& column);
+Column OnlyUnbroken(const Bars& bars, int bar, int n, Column column);
 
 // at(bar) and at(bar - 1) as one line.
 template <typename At>
@@ -51,15 +51,17 @@ inline double PercentChange(double now, double then) {
     return Ratio(100 * (now - then), then);
 }
 
-// Calls step(b) for the bars 0 to `bar`; each call returns pointers to the columns of `Count` lines, and
-// the last two calls make the result.
-template <std::size_t Count, typename Step>
-Lines WalkTo(int bar, std::size_t instruments, Step step) {
+// Calls step(b) for the bars 0 to `bar`, and columns() after each of the last two: it returns an array with
+// the columns of `Count` lines as they stand then.
+template <std::size_t Count, typename Step, typename Columns>
+Lines WalkTo(int bar, std::size_t instruments, Step step, Columns columns) {
     Lines lines(Count, Line{Column(instruments, kMissing), Column(instruments, kMissing)});
     for (int b = 0; b <= bar; ++b) {
-        const std::array<const Column*, Count> columns = step(b);
-        for (std::size_t i = 0; i < Count && b >= bar - 1; ++i)
-            (b == bar ? lines[i].now : lines[i].before) = *columns[i];
+        step(b);
+        if (b < bar - 1) continue;
+        std::array<Column, Count> reached = columns();
+        for (std::size_t i = 0; i < Count; ++i)
+            (b == bar ? lines[i].now : lines[i].before) = std::move(reached[i]);
     }
     return lines;
 }
