@@ -118,6 +118,7 @@ std::string RemoveBracketFromOpen(std::string text, int openIndex) {
 }
 
 bool RemoveLetter(std::string& compact, char letter) {
+    if (letter < 'A' || letter > 'Z') return false;
     std::size_t at = compact.find(letter);
     if (at != std::string::npos && At(compact, at + 1) == ')') {
         compact = RemoveBracketFromClose(std::move(compact), static_cast<int>(at + 1));

@@ -103,6 +103,7 @@ TEST(ExpressionTextTest, RemovesALetter) {
         {"(A&B", 'A', "B", false},
         {"A)", 'A', "", false},
         {"C&(A|B", 'A', "&B", false},
+        {"(A)", ')', "(A)", false},  // no letter
     };
     for (const Case& each : cases) {
         std::string text = each.text;
