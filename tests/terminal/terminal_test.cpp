@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -188,6 +190,20 @@ TEST(ModuleExportsTest, EmptyFunctionsAnswerAsTheyMust) {
     const auto create = reinterpret_cast<decltype(&::CreateScreen)>(library.resolve("CreateScreen"));
     EXPECT_EQ(static_cast<std::int32_t>(0x80004005), create(&frame, &screen, nullptr, "", 0, "", 0));
     EXPECT_EQ(nullptr, frame);
+}
+
+TEST(ModuleExportsTest, NothingElseIsVisible) {
+    QProcess nm;
+    nm.start("nm", {"-D", "--defined-only", "-C", SCREEN0150});
+    ASSERT_TRUE(nm.waitForFinished());
+    const QRegularExpression told(
+        "^[0-9a-f]+ . "
+        "(CreateScreen|DestroyScreen|SetGlobalFunc|GetLastData|SetLastData|SetEnvChange|SetColorChange|"
+        "SetFontChange|SetFocusCombo|SetScreenMXN|OnPrint|GetLinkTagData"
+        "|(vtable for |typeinfo for |typeinfo name for )?(CIniMemFile|CMemFile|CNVLinkInfoItem)(::.*)?)$");
+    const QStringList symbols = QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    EXPECT_GT(symbols.size(), 12);
+    for (const QString& symbol : symbols) EXPECT_TRUE(told.match(symbol).hasMatch()) << symbol.toStdString();
 }
 
 TEST(ScreenModuleTest, AForeignLibraryIsRefusedInOneLine) {
