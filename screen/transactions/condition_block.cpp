@@ -143,13 +143,6 @@ std::span<const RoleSlot> LayoutOf(char family) {
     }
 }
 
-const RoleSlot* FindSlot(char family, int role) {
-    for (const RoleSlot& slot : LayoutOf(family)) {
-        if (slot.role == role) return &slot;
-    }
-    return nullptr;
-}
-
 char FamilyLetter(std::string_view key) {
     switch (Atoi(key.substr(0, 2))) {
         case 1:

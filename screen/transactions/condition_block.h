@@ -48,9 +48,6 @@ struct RoleSlot {
 // The slots of family 'B', 'T', 'P' or 'R', in byte order; none for 'F' and any other letter.
 std::span<const RoleSlot> LayoutOf(char family);
 
-// The slot of `role` in that layout; null if it has none.
-const RoleSlot* FindSlot(char family, int role);
-
 // The family letter of an indicator key by its first two digits; a blank for a family with no layout.
 char FamilyLetter(std::string_view key);
 

@@ -1,0 +1,117 @@
+#include "screen/saved/saved_conditions.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/screen/support/recorders.h"
+
+namespace jogeon::test {
+namespace {
+
+struct PlainConditionView : ConditionView {
+    void FillConditionGrid(const std::vector<std::unique_ptr<CIndexInfo>>& conditions) override {
+        rows = conditions.size();
+    }
+    void FocusRow(int) override {}
+    void ClearSequenceMarks() override {}
+    std::string ExpressionText() const override { return text; }
+    void SetExpressionText(const std::string& shown) override { text = shown; }
+    void ShowCondition(const CIndexInfo&, bool shown) override { panelShown = shown; }
+    void HidePanel() override { panelShown = false; }
+
+    std::size_t rows = 0;
+    std::string text;
+    bool panelShown = false;
+};
+
+struct PlainSavedView : SavedConditionView {
+    void ShowName(const std::string& shown) override { name = shown; }
+    void SelectBuy(bool) override {}
+    void ShowTarget(const SearchTarget&) override {}
+    void EnableSavedCommands(bool enabled) override { commandsEnabled = enabled; }
+    void ClearTreeSelection() override {}
+    void ClearResults() override { ++cleared; }
+
+    std::string name;
+    bool commandsEnabled = false;
+    int cleared = 0;
+};
+
+class SavedConditionsTest : public testing::Test {
+protected:
+    static std::shared_ptr<CSavedIndexInfo> SetWith(const std::string& name, const std::string& letters) {
+        auto set = std::make_shared<CSavedIndexInfo>();
+        set->Name = name;
+        set->m_strKey = "07";
+        set->Exp = "A&C";
+        for (const char letter : letters) {
+            set->m_Conditions.push_back(std::make_unique<CIndexInfo>());
+            set->m_Conditions.back()->m_chLetter = letter;
+        }
+        return set;
+    }
+
+    PlainConditionView conditions_;
+    PlainSavedView view_;
+    ConditionEditor editor_{conditions_};
+    ScriptedQuestions questions_;
+    RecordingLinkStore links_;
+    ScreenSettings settings_;
+    SavedConditions saved_{view_, editor_, questions_, links_, settings_};
+};
+
+TEST_F(SavedConditionsTest, NextLetterFollowsTheHighestOfALoadedSet) {
+    EXPECT_EQ('A', editor_.NextLetter());
+    saved_.LoadCondition(SetWith("x", "CA"));
+    EXPECT_EQ('D', editor_.NextLetter());
+    EXPECT_EQ("A and C", conditions_.text);
+    saved_.LoadCondition(SetWith("none", ""));
+    EXPECT_EQ('B', editor_.NextLetter()) << "also without a condition";
+    saved_.LoadCondition(SetWith("full", "Z"));
+    EXPECT_EQ('Z' + 1, editor_.NextLetter());
+    saved_.NewCondition();
+    EXPECT_EQ('A', editor_.NextLetter());
+}
+
+TEST_F(SavedConditionsTest, AFirmsSetIsNeverTheCurrentOneAndSettingsSayWhatALoadDoes) {
+    saved_.LoadCondition(SetWith("own", "A"));
+    EXPECT_EQ("own", saved_.CurrentSaved()->Name);
+    EXPECT_TRUE(view_.commandsEnabled);
+    EXPECT_TRUE(conditions_.panelShown);
+    EXPECT_EQ(1, view_.cleared);
+
+    settings_.initResult = 0;
+    settings_.expandMode = 2;
+    auto firm = SetWith("firm", "A");
+    firm->m_bVendorSet = 1;
+    saved_.LoadCondition(firm);
+    EXPECT_EQ(nullptr, saved_.CurrentSaved());
+    EXPECT_FALSE(view_.commandsEnabled);
+    EXPECT_FALSE(conditions_.panelShown);
+    EXPECT_EQ(1, view_.cleared);
+}
+
+TEST_F(SavedConditionsTest, YesSavesAndGoesOnCancelStops) {
+    int saves = 0;
+    saved_.SetSave([&] {
+        ++saves;
+        return false;
+    });
+    saved_.LoadCondition(SetWith("own", "A"));
+    editor_.SetDirty(true);
+    questions_.answers = {host::Answer::Cancel, host::Answer::Yes};
+    saved_.LoadCondition(SetWith("next", "A"));
+    EXPECT_EQ("own", view_.name);
+    saved_.LoadCondition(SetWith("next", "A"));
+    EXPECT_EQ("next", view_.name);
+    EXPECT_EQ(1, saves);
+    EXPECT_FALSE(editor_.Dirty());
+
+    settings_.confirm = 0;
+    editor_.SetDirty(true);
+    saved_.NewCondition();
+    EXPECT_EQ(2u, questions_.boxes.size()) << "the user doesn't want to be asked";
+    EXPECT_EQ(1, saves);
+}
+
+}  // namespace
+}  // namespace jogeon::test
