@@ -27,6 +27,7 @@ class NoQuestions : public host::Questions {
 public:
     host::Answer Ask(const host::Box&) override { return host::Answer::Ok; }
     bool Run(const std::string&, void*) override { return false; }
+    std::optional<std::filesystem::path> AskSavePath(const host::FileQuestion&) override { return {}; }
 };
 
 CIndexInfo MakeCondition(char letter) {

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "screen/host/message_boxes_qt.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
 #include "terminal/trace.h"
@@ -38,7 +39,7 @@ Terminal::Terminal(const Options& options)
         PrintLine(file.toStdString() + ": differs from the one that comes with jogeon, and is used as it is");
     }
     if (options.demonstrate.isEmpty()) {
-        questions_ = std::make_unique<MessageBoxes>(window_);
+        questions_ = std::make_unique<host::MessageBoxes>(window_);
     } else {
         questions_ = std::make_unique<PrintedQuestions>();
     }

@@ -6,7 +6,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -91,6 +93,12 @@ struct Box {
     Buttons buttons = Buttons::Ok;
 };
 
+// A file that the user is asked to name. Texts are CP949.
+struct FileQuestion {
+    std::string filterName;  // "Excel Worksheet Files (*.xls)"
+    std::string extension;   // "xls", put behind a name that has none
+};
+
 // Everything modal that the user is shown, so that a test can answer in his place.
 class Questions {
 public:
@@ -101,6 +109,10 @@ public:
     // Runs a modal dialog of the screen. `dialog` names it ("ExpressionErrorDialog"), `object` is its widget;
     // true if it was closed by its OK.
     virtual bool Run(const std::string& dialog, void* object) = 0;
+
+    // Where to save a file; a file that exists is only named if the user agrees to replace it. None if he
+    // cancels.
+    virtual std::optional<std::filesystem::path> AskSavePath(const FileQuestion& question) = 0;
 };
 
 // Who gets the ticks of its timers.

@@ -24,6 +24,7 @@ class FailingQuestions : public host::Questions {
 public:
     host::Answer Ask(const host::Box& box) override { throw SearchFailed(ToUtf8(box.text)); }
     bool Run(const std::string&, void*) override { return false; }
+    std::optional<std::filesystem::path> AskSavePath(const host::FileQuestion&) override { return {}; }
 };
 
 ColumnTables LoadColumns(const std::filesystem::path& home, const std::string& user) {

@@ -4,8 +4,10 @@
 #include <chrono>
 #include <cstdint>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -98,8 +100,15 @@ public:
         return onRun && onRun(dialog, object);
     }
 
+    std::optional<std::filesystem::path> AskSavePath(const host::FileQuestion& question) override {
+        files.push_back(question);
+        return savePath;
+    }
+
     std::vector<host::Box> boxes;
     std::vector<std::string> dialogs;
+    std::vector<host::FileQuestion> files;
+    std::optional<std::filesystem::path> savePath;  // the answer to each of them
     std::deque<host::Answer> answers;
     std::function<void()> onAsk;  // what happens while a box stands open
     std::function<bool(const std::string& dialog, void* object)> onRun;
