@@ -1,6 +1,7 @@
 #include "terminal/main_window.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>

@@ -1,5 +1,6 @@
 #include "screen/results/result_cell_qt.h"
 
+#include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
