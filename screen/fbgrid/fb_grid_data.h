@@ -117,7 +117,8 @@ protected:
 
 private:
     bool ResizeRows(int n);
-    void ClearCell(CCell& cell);
+    int SetSize(FBAxis& axis, int index, int size);
+    bool CellExists(int row, int col) const;
 
     FBAxis rows_;
     FBAxis columns_;

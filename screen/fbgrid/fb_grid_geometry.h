@@ -56,13 +56,17 @@ public:
     FBGridGeometry(const FBGridData& grid, GridSize client, int scrollX, int scrollY)
         : grid_(grid), client_(client), scrollX_(scrollX), scrollY_(scrollY) {}
 
+    // The first body cell shown: its row is the last one where no row starts behind the scroll position, and
+    // the number of header rows where there is no body; columns likewise.
     CCellID GetTopleftNonFixedCell() const;
 
-    // The body cells that are on the window, cells that are cut by its edge too; an empty block if none is.
+    // The body cells that are on the window, cells that are cut by its edge too. With no such row the block
+    // is empty, but its columns still are those on the window, which the headers need; likewise with no
+    // column.
     CCellRange GetVisibleRange() const;
 
-    // The cell under a point; -1 for a coordinate beyond the last row or column, and in the fixed area unless
-    // that is allowed.
+    // The cell under a point; -1 for a coordinate off the window or beyond the last row or column, and in the
+    // fixed area unless that is allowed.
     CCellID GetCellFromPt(GridPoint point, bool allowFixed) const;
 
     // 1 with the fields filled, or 0 with all of them 0.

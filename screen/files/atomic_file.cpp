@@ -1,7 +1,6 @@
 #include "screen/files/atomic_file.h"
 
-#include <cstdio>
-#include <memory>
+#include <algorithm>
 #include <optional>
 #include <random>
 #include <string>
@@ -29,20 +28,6 @@ bool Fails(FileStep step) {
     return fault && fault->step == step;
 }
 
-struct FileCloser {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
-
-File Open(const fs::path& path, const char* mode) {
-#if defined(_WIN32)
-    return File(
-        _wfopen(path.c_str(), std::wstring(mode, mode + std::char_traits<char>::length(mode)).c_str()));
-#else
-    return File(std::fopen(path.c_str(), mode));
-#endif
-}
-
 bool FlushToDisk(std::FILE* file) {
     if (std::fflush(file) != 0 || Fails(FileStep::Flush)) return false;
 #if defined(_WIN32)
@@ -64,12 +49,6 @@ void FlushFolder(const fs::path& folder) {
 #endif
 }
 
-bool Write(std::FILE* file, std::string_view bytes) {
-    const bool fails = Fails(FileStep::Write);
-    if (fails) bytes = bytes.substr(0, fault->bytes);
-    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && !fails;
-}
-
 // The file that `path` means: a link's target, so that the link stays one.
 fs::path Target(const fs::path& path) {
     std::error_code error;
@@ -87,38 +66,78 @@ fs::path Beside(const fs::path& target) {
     return beside;
 }
 
-bool MayReplace(const fs::path& target) {
-    std::error_code error;
-    return !fs::exists(target, error) || (fs::is_regular_file(target, error) && Open(target, "r+b"));
-}
-
-bool WriteNewFile(const fs::path& path, const fs::path& target, std::string_view bytes) {
-    File file = Open(path, "wbx");
-    if (!file) return false;
-    if (!Write(file.get(), bytes) || !FlushToDisk(file.get())) return false;
-    if (std::fclose(file.release()) != 0) return false;
-    std::error_code error;
-    const fs::file_status old = fs::status(target, error);
-    if (fs::exists(old)) fs::permissions(path, old.permissions(), error);
-    return true;
-}
-
 }  // namespace
 
-bool WriteFileAtomically(const fs::path& path, std::string_view bytes) {
-    const fs::path target = Target(path);
-    if (Fails(FileStep::Open) || !MayReplace(target)) return false;
-    const fs::path beside = Beside(target);
+AtomicFile::File AtomicFile::OpenFile(const fs::path& path, const char* mode) {
+#if defined(_WIN32)
+    return File(
+        _wfopen(path.c_str(), std::wstring(mode, mode + std::char_traits<char>::length(mode)).c_str()));
+#else
+    return File(std::fopen(path.c_str(), mode));
+#endif
+}
+
+bool AtomicFile::MayReplace(const fs::path& target) {
     std::error_code error;
-    if (WriteNewFile(beside, target, bytes) && !Fails(FileStep::Rename)) {
-        fs::rename(beside, target, error);
-        if (!error) {
-            FlushFolder(target.parent_path());
-            return true;
-        }
+    return !fs::exists(target, error) || (fs::is_regular_file(target, error) && OpenFile(target, "r+b"));
+}
+
+bool AtomicFile::Open(const fs::path& path) {
+    Discard();
+    target_ = Target(path);
+    if (Fails(FileStep::Open) || !MayReplace(target_)) return false;
+    beside_ = Beside(target_);
+    file_ = OpenFile(beside_, "wbx");
+    written_ = 0;
+    failed_ = false;
+    return IsOpen();
+}
+
+void AtomicFile::Write(std::string_view bytes) {
+    if (!IsOpen() || failed_) return;
+    const std::size_t room =
+        Fails(FileStep::Write) ? fault->bytes - std::min(written_, fault->bytes) : bytes.size();
+    const std::string_view allowed = bytes.substr(0, room);
+    const std::size_t put = std::fwrite(allowed.data(), 1, allowed.size(), file_.get());
+    written_ += put;
+    failed_ = put < bytes.size();
+}
+
+// Everything that Commit does before the rename.
+bool AtomicFile::Finish() {
+    if (!IsOpen() || failed_ || !FlushToDisk(file_.get())) return false;
+    if (std::fclose(file_.release()) != 0) return false;
+    std::error_code error;
+    const fs::file_status old = fs::status(target_, error);
+    if (fs::exists(old)) fs::permissions(beside_, old.permissions(), error);
+    return !Fails(FileStep::Rename);
+}
+
+bool AtomicFile::Commit() {
+    std::error_code error;
+    const bool finished = Finish();
+    if (finished) fs::rename(beside_, target_, error);
+    const bool renamed = finished && !error;
+    if (renamed) {
+        beside_.clear();
+        FlushFolder(target_.parent_path());
     }
-    fs::remove(beside, error);
-    return false;
+    Discard();
+    return renamed;
+}
+
+void AtomicFile::Discard() {
+    file_.reset();
+    std::error_code error;
+    if (!beside_.empty()) fs::remove(beside_, error);
+    beside_.clear();
+}
+
+bool WriteFileAtomically(const fs::path& path, std::string_view bytes) {
+    AtomicFile file;
+    if (!file.Open(path)) return false;
+    file.Write(bytes);
+    return file.Commit();
 }
 
 FileFault::FileFault(FileStep step, std::size_t bytes) {

@@ -1,0 +1,53 @@
+// A saved sheet as a spreadsheet program reads it that knows nothing of ours. Skipped where it isn't
+// installed.
+
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include "screen/fbgrid/fb_grid_sheet.h"
+#include "tests/screen/support/condition_files.h"
+
+namespace jogeon {
+namespace {
+
+// The sheet as UTF-8 text, commas between columns. Texts are quoted and numbers aren't, as each cell was
+// stored. The file names no code page, so the program takes that of the desktop's language.
+std::string AsCsv(const std::filesystem::path& folder) {
+    constexpr const char* kQuotedTextInUtf8 = "44,34,76,1,,0,true,false";
+    const std::string command =
+        "LC_ALL=ko_KR.UTF-8 timeout 120 soffice --headless -env:UserInstallation=file://" +
+        (folder / "profile").string() +
+        " --convert-to 'csv:Text - txt - csv (StarCalc):" + kQuotedTextInUtf8 + "' --outdir " +
+        folder.string() + " " + (folder / "sheet.xls").string() + " >" + (folder / "log").string() + " 2>&1";
+    if (std::system(command.c_str()) != 0) return test::ReadBytes(folder / "log");
+    return test::ReadBytes(folder / "sheet.csv");
+}
+
+TEST(GridSheetCalcTest, ASpreadsheetProgramReadsTheSheet) {
+    if (std::system("command -v soffice >/dev/null") != 0) GTEST_SKIP() << "soffice is not installed";
+    FBGridData grid;
+    for (const char* title : {"", "종목명", "숨김", "값"})
+        grid.AddColumn(ToCp949(title), std::string_view(title) == "숨김" ? 0 : 50);
+    grid.SetRowCnt(4);
+    grid[1][1].text = "삼성전자"_cp949;
+    grid.SetCellValue(1, 3, 71800);
+    grid[2][1].text = "123";  // a text of digits stays a text
+    grid.SetCellValue(2, 3, 1234.5);
+    grid.SetCellValue(3, 3, 5);
+    grid[3][3].check = CCell::kOn;
+
+    const test::TempFolder folder;
+    ASSERT_TRUE(SaveSheetPartially(grid, folder.Path() / "sheet.xls", "A and (B or !C) 똠방"_cp949, 1, 3));
+    EXPECT_EQ(
+        ",\"종목명\",\"값\"\n"
+        ",\"삼성전자\",71800\n"
+        ",\"123\",1234.5\n"
+        ",,-5\n"
+        ",,\n"
+        ",\"A and (B or !C) 똠방\",\n",
+        AsCsv(folder.Path()));
+}
+
+}  // namespace
+}  // namespace jogeon
