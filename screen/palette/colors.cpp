@@ -55,6 +55,24 @@ ColorNumber ColorOf(Color color) {
             return 0xffffff;
         case Color::ExpressionBack:
             return 0xe6f0f0;
+        case Color::FBFocusedRow:
+            return 0xe7d7c6;
+        case Color::FBMovingRow:
+            return 0xd6fff1;
+        case Color::FBText:
+            return 0x000000;
+        case Color::FBCheckFrame:
+            return 0x000000;
+        case Color::FBCheckBack:
+            return 0xffffff;
+        case Color::FBCheckTick:
+            return 0x000000;
+        case Color::FBCheckDisabledBack:
+            return 0xc0c0c0;
+        case Color::FBCheckDisabledLight:
+            return 0xffffff;
+        case Color::FBCheckDisabledShade:
+            return 0x808080;
     }
     return 0;
 }

@@ -37,6 +37,15 @@ enum class Color {
     Accent,
     AccentText,
     ExpressionBack,
+    FBFocusedRow,
+    FBMovingRow,
+    FBText,  // on a background that the desktop's own text can't be read on
+    FBCheckFrame,
+    FBCheckBack,
+    FBCheckTick,
+    FBCheckDisabledBack,
+    FBCheckDisabledLight,
+    FBCheckDisabledShade,
 };
 
 ColorNumber ColorOf(Color color);

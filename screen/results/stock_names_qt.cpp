@@ -1,20 +1,12 @@
 #include "screen/results/stock_names_qt.h"
 
-#include <algorithm>
-
 #include "screen/text/bytes.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
 std::string_view CodeInNameCell(std::string_view cell) {
     return TrimRight(Field(cell, 1, 6));
-}
-
-QString ToQString(std::string_view cp949) {
-    const bool ascii = std::all_of(cp949.begin(), cp949.end(), [](char c) { return (c & 0x80) == 0; });
-    if (ascii) return QString::fromLatin1(cp949.data(), static_cast<qsizetype>(cp949.size()));
-    return QString::fromStdString(ToUtf8(cp949));
 }
 
 const QString& StockNames::Of(std::string_view code) {

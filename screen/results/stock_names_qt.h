@@ -13,9 +13,6 @@ namespace jogeon {
 // The six-byte code in a name cell, which begins with the market's letter.
 std::string_view CodeInNameCell(std::string_view cell);
 
-// Qt's text of CP949 bytes; no table is asked for plain ASCII.
-QString ToQString(std::string_view cp949);
-
 class StockNames {
 public:
     // `lists` outlives this.
