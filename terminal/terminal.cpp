@@ -31,7 +31,7 @@ Terminal::Terminal(const Options& options)
       market_(LoadMarket(options.market)),
       service_(market_, PrintLine),
       communication_(service_, options.user.toStdString(), TracerOf(options)),
-      links_(options.user.toStdString(), home_),
+      links_(options.user.toStdString(), home_, service_.Accounts(options.user.toStdString())),
       codeLists_(service_, options.user.toStdString()),
       module_(ScreenModule::DefaultPath()),
       window_(options.user, *market_) {

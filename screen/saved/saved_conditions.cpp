@@ -39,6 +39,15 @@ void SavedConditions::LoadCondition(std::shared_ptr<CSavedIndexInfo> record) {
     if (settings_.initResult) view_.ClearResults();
 }
 
+void SavedConditions::ChangeTarget(const ChooseTarget& choose) {
+    std::optional<SearchTarget> chosen = choose(target_);
+    if (!chosen) return;
+    target_ = *std::move(chosen);
+    view_.ShowTarget(target_);
+    editor_.SetDirty(true);
+    if (editor_.SequenceStep() > 0) editor_.ResetSequence();
+}
+
 host::Answer SavedConditions::AskToSaveChanges() {
     if (!settings_.confirm) return host::Answer::No;
     const std::string text =

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "screen/condition/condition_editor.h"
@@ -35,6 +36,9 @@ public:
     // Saves what is on the screen; whether a request was sent.
     using Save = std::function<bool()>;
 
+    // Lets the user change a target; none if he leaves it as it is.
+    using ChooseTarget = std::function<std::optional<SearchTarget>(const SearchTarget&)>;
+
     // All of these outlive this object; `settings` is read at each command.
     SavedConditions(SavedConditionView& view, ConditionEditor& editor, host::Questions& questions,
                     host::LinkStore& links, const ScreenSettings& settings);
@@ -47,6 +51,9 @@ public:
     // Shows a set of the user's or of the firm, after asking for unsaved changes. A set of the user's brings
     // its target with it and becomes the current one.
     void LoadCondition(std::shared_ptr<CSavedIndexInfo> record);
+
+    // Takes the target that the user chooses. It changes the set, and ends a sequential search.
+    void ChangeTarget(const ChooseTarget& choose);
 
     // Asks whether changes shall be saved; No, without a box, where the user doesn't want to be asked.
     host::Answer AskToSaveChanges();

@@ -14,6 +14,7 @@
 #include "screen/shell/host_color_numbers.h"
 #include "screen/shell/screen_splitter_widget.h"
 #include "screen/shell/screen_style_qt.h"
+#include "screen/target/target_dialog.h"
 #include "screen/text/cp949.h"
 #include "screen/transactions/list_request.h"
 
@@ -95,6 +96,7 @@ void ConditionScreen::FillScopes() {
 
 void ConditionScreen::WireCommands() {
     form_.OnClick(control::kNewCondition, [this] { saved_.NewCondition(); });
+    form_.OnClick(control::kChangeTarget, [this] { ChangeTarget(); });
     form_.OnClick(control::kSearch, [this] { search_.Start(); });
     form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
     form_.OnClick(control::kClearResults, [this] { ClearResultsCommand(); });
@@ -139,6 +141,11 @@ void ConditionScreen::ToggleExpressionHeight() {
     for (const int id : kButtonRow) form_.At(id).setVisible(!enlarge);
     if (enlarge) expressionEdit_.raise();
     expressionEdit_.setFocus();
+}
+
+void ConditionScreen::ChangeTarget() {
+    saved_.ChangeTarget(
+        [this](const SearchTarget& target) { return AskForTarget(services_, target, *this); });
 }
 
 void ConditionScreen::ClearResultsCommand() {

@@ -97,6 +97,7 @@ private:
     void WireReplies();
     void ToggleLeftPane();
     void ToggleExpressionHeight();
+    void ChangeTarget();
     void ClearResultsCommand();
     void OnListReply(std::string_view reply);
     void ChangeHost(host::WindowHandle mainWindow);

@@ -47,6 +47,7 @@ inline constexpr int kDeleteSaved = 21022;
 inline constexpr int kRenameSaved = 21023;
 inline constexpr int kSave = 21024;
 inline constexpr int kSaveAs = 21025;
+inline constexpr int kChangeTarget = 21026;
 inline constexpr int kTargetLabel = 21027;
 inline constexpr int kBuy = 21028;
 inline constexpr int kSell = 21029;

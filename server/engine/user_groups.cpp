@@ -9,6 +9,7 @@
 
 #include "screen/text/bytes.h"
 #include "server/engine/last_day.h"
+#include "server/engine/news_groups.h"
 
 namespace jogeon::engine {
 namespace {
@@ -40,16 +41,6 @@ constexpr ThemeRule kThemes[] = {
     {"금융지주·증권", {"은행", "금융 지원", "증권"}, {"금융지주", "증권"}},
     {"지주회사", {"회사 본부"}, {"홀딩스", "지주"}},
     {"기업인수목적(SPAC)", {}, {"스팩"}},
-};
-
-struct NewsSource {
-    std::string_view code;
-    std::string_view name;
-};
-
-constexpr NewsSource kNews[] = {
-    {"902", "장중시황"},   {"903", "인포스탁"}, {"904", "연합뉴스"}, {"905", "이데일리"},
-    {"906", "머니투데이"}, {"907", "한경뉴스"}, {"908", "공시"},
 };
 
 bool HasOneOf(std::string_view text, std::span<const std::string_view> pieces) {
@@ -158,9 +149,7 @@ UserGroups ExampleGroups(const Market& market, std::string_view user) {
     UserGroups groups;
     groups.interests = ExampleInterests(market, ranked);
     groups.themes = ExampleThemes(market);
-    for (const NewsSource& source : kNews)
-        groups.news.push_back(
-            {std::string(source.code), std::string(source.name), BitSet(market.Instruments().size())});
+    groups.news = ExampleNews(market);
     groups.accounts = ExampleAccounts(market, user, ranked);
     return groups;
 }

@@ -1,8 +1,7 @@
 // What belongs to one user: interest groups, themes, news sources, and accounts with their holdings.
 //
 // Interest groups have codes "501" to "599", themes "601" to "699", news sources "902" to "908". A user whom
-// the service meets for the first time gets examples made from the market; only news has none to show, since
-// no news reaches this machine: its groups are known and empty.
+// the service meets for the first time gets examples of all of them, made from the market.
 #pragma once
 
 #include "server/engine/stock_group.h"

@@ -5,8 +5,9 @@
 namespace jogeon::terminal {
 
 // Major id 0 is no id.
-Links::Links(const std::string& user, const HomeFolder& home)
+Links::Links(const std::string& user, const HomeFolder& home, std::vector<std::string> accounts)
     : majorIds_(1),
+      accounts_(std::move(accounts)),
       home_(QFile::encodeName(home.path).toStdString()),
       configuration_(QFile::encodeName(home.configuration).toStdString()) {
     tags_[{"SharedMainKey", "USER_ID"}] = user;
@@ -45,19 +46,17 @@ std::string Links::NVLink_GetMaeCheGB(int) {
 }
 
 int Links::NVLink_GetAccountCount() {
-    return 0;
+    return static_cast<int>(accounts_.size());
 }
 
-std::string Links::NVLink_GetAccount(int) {
-    return {};
+std::string Links::NVLink_GetAccount(int index) {
+    const auto at = static_cast<std::size_t>(index);
+    return index >= 0 && at < accounts_.size() ? accounts_[at] : std::string();
 }
 
-// "12345678901" reads "1234-5678-901".
+// "12345678901" reads "12345678-901": screens cut the first eight digits into pieces of their own.
 std::string Links::NVLink_GetAccountFmt(const std::string& account, int) {
-    if (account.size() <= 4) return account;
-    std::string text = account.substr(0, 4).append("-").append(account, 4, 4);
-    if (account.size() > 8) text.append("-").append(account, 8);
-    return text;
+    return account.size() <= 8 ? account : account.substr(0, 8).append("-").append(account, 8);
 }
 
 std::string Links::GetRunTimePath() {

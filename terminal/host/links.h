@@ -14,7 +14,7 @@ namespace jogeon::terminal {
 
 class Links : public host::LinkStore {
 public:
-    Links(const std::string& user, const HomeFolder& home);
+    Links(const std::string& user, const HomeFolder& home, std::vector<std::string> accounts);
 
     std::string NVLink_GetLinkTagData(const std::string& mainKey, const std::string& tag,
                                       int* found) override;
@@ -37,6 +37,7 @@ private:
     std::map<std::pair<std::string, std::string>, std::string> tags_;
     std::map<std::string, std::vector<std::string>> codes_;
     std::bitset<256> majorIds_;
+    const std::vector<std::string> accounts_;
     const std::string home_;
     const std::string configuration_;
 };

@@ -26,12 +26,13 @@ struct PlainConditionView : ConditionView {
 struct PlainSavedView : SavedConditionView {
     void ShowName(const std::string& shown) override { name = shown; }
     void SelectBuy(bool) override {}
-    void ShowTarget(const SearchTarget&) override {}
+    void ShowTarget(const SearchTarget& target) override { label = target.m_strTargetLabel; }
     void EnableSavedCommands(bool enabled) override { commandsEnabled = enabled; }
     void ClearTreeSelection() override {}
     void ClearResults() override { ++cleared; }
 
     std::string name;
+    std::string label;
     bool commandsEnabled = false;
     int cleared = 0;
 };
@@ -111,6 +112,23 @@ TEST_F(SavedConditionsTest, YesSavesAndGoesOnCancelStops) {
     saved_.NewCondition();
     EXPECT_EQ(2u, questions_.boxes.size()) << "the user doesn't want to be asked";
     EXPECT_EQ(1, saves);
+}
+
+TEST_F(SavedConditionsTest, AChosenTargetIsShownAndCountsAsAChange) {
+    saved_.ChangeTarget([](const SearchTarget&) { return std::nullopt; });
+    EXPECT_FALSE(editor_.Dirty());
+    EXPECT_EQ("", view_.label);
+
+    saved_.ChangeTarget([](const SearchTarget& target) {
+        SearchTarget chosen = target;
+        chosen.Group = {"101"};
+        chosen.m_strTargetLabel = "<101>";
+        return std::optional(chosen);
+    });
+    EXPECT_TRUE(editor_.Dirty());
+    EXPECT_EQ("<101>", view_.label);
+    EXPECT_EQ(std::vector<std::string>{"101"}, saved_.Target().Group);
+    EXPECT_EQ(1, saved_.Target().Upjong) << "the dialog was given the target that stood";
 }
 
 }  // namespace
