@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <string>
 
+class QPlainTextEdit;
+
 namespace jogeon {
 
 class ExpressionErrorDialog : public QDialog {
@@ -12,6 +14,15 @@ class ExpressionErrorDialog : public QDialog {
 public:
     // `marked` is the expression with the hand in it, CP949.
     explicit ExpressionErrorDialog(const std::string& marked);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* MakeHeading();
+    void FillText(const std::string& marked);
+
+    QPlainTextEdit* text_;
 };
 
 }  // namespace jogeon

@@ -84,6 +84,13 @@ WindowHandle NearestHostFrame(const QWidget& widget) {
     return 0;
 }
 
+WindowHandle ParentWindow(const QWidget& widget) {
+    for (const QWidget* at = widget.parentWidget(); at; at = at->parentWidget()) {
+        if (const WindowHandle handle = HandleOf(at)) return handle;
+    }
+    return 0;
+}
+
 std::intptr_t SendMessage(WindowHandle window, MessageNumber number, std::uintptr_t wParam,
                           std::intptr_t lParam) {
     QWidget* widget = FindWindow(window);
@@ -91,6 +98,12 @@ std::intptr_t SendMessage(WindowHandle window, MessageNumber number, std::uintpt
     MessageEvent event(number, wParam, lParam);
     QCoreApplication::sendEvent(widget, &event);
     return event.result;
+}
+
+void PostMessage(WindowHandle window, MessageNumber number, std::uintptr_t wParam, std::intptr_t lParam) {
+    if (QWidget* widget = FindWindow(window)) {
+        QCoreApplication::postEvent(widget, new MessageEvent(number, wParam, lParam));
+    }
 }
 
 }  // namespace jogeon::host

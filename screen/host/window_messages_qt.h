@@ -39,8 +39,15 @@ JOGEON_HOST_API WindowHandle HandleOf(const QWidget* widget);  // 0 if it isn't 
 // The first ancestor of `widget` that is a host frame, as a handle; 0 if there is none.
 JOGEON_HOST_API WindowHandle NearestHostFrame(const QWidget& widget);
 
+// The first ancestor of `widget` that is registered at all, as a handle: the window its messages go up to.
+JOGEON_HOST_API WindowHandle ParentWindow(const QWidget& widget);  // 0 if there is none
+
 // Delivers a message at once and gives its result.
 JOGEON_HOST_API std::intptr_t SendMessage(WindowHandle window, MessageNumber number, std::uintptr_t wParam,
                                           std::intptr_t lParam);
+
+// Delivers a message when the event loop comes to it, if the window lives then; its result is nobody's.
+JOGEON_HOST_API void PostMessage(WindowHandle window, MessageNumber number, std::uintptr_t wParam,
+                                 std::intptr_t lParam);
 
 }  // namespace jogeon::host

@@ -73,6 +73,12 @@ ColorNumber ColorOf(Color color) {
             return 0xffffff;
         case Color::FBCheckDisabledShade:
             return 0x808080;
+        case Color::ExpressionOperator:
+            return 0x2d2dd0;
+        case Color::ExpressionLetter:
+            return 0x000000;
+        case Color::ExpressionBracket:
+            return 0xd02d2d;
     }
     return 0;
 }

@@ -46,6 +46,9 @@ enum class Color {
     FBCheckDisabledBack,
     FBCheckDisabledLight,
     FBCheckDisabledShade,
+    ExpressionOperator,
+    ExpressionLetter,
+    ExpressionBracket,
 };
 
 ColorNumber ColorOf(Color color);

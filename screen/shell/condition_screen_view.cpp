@@ -45,6 +45,7 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       hostWindow_(hostWindow),
       handle_(host::RegisterWindow(*this)),
       form_(this),
+      expressionEdit_(*services_.questions),
       resultGrid_(*services_.codeLists),
       channel_(*services_.communication, *services_.clock, *services_.questions, [this] { RefreshCursor(); }),
       conditionsPane_(conditionGrid_, expressionEdit_, panel_),

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "screen/condition/index_info.h"
+#include "screen/expression/expression_characters.h"
 #include "screen/expression/expression_text.h"
 #include "screen/text/bytes.h"
 #include "screen/text/cp949.h"
@@ -12,6 +13,8 @@
 
 namespace jogeon {
 namespace {
+
+static_assert(kMaxExpressionBytes == kMaxExpressionTokens);  // what the box refuses is what the field holds
 
 constexpr std::size_t kUserIdWidth = 8;
 constexpr std::size_t kHandleWidth = 2;
@@ -49,12 +52,7 @@ std::optional<std::string> CompactExpression(std::string_view text,
     if (!check(trimmed)) return std::nullopt;
     std::string compact = ToCompactForm(trimmed);
     if (compact.size() <= kMaxExpressionBytes) return compact;
-
-    std::string box = "조건식이 너무 깁니다.\n\n공백을 빼고 "_cp949;
-    box += Decimal(static_cast<int>(kMaxExpressionBytes));
-    box += "자까지 쓸 수 있고, 지금은 "_cp949 + Decimal(static_cast<int>(compact.size()));
-    box += "자입니다."_cp949;
-    questions.Ask({box, "조건검색"_cp949, host::Icon::Information, host::Buttons::Ok});
+    questions.Ask(CompactFormTooLong(static_cast<int>(compact.size())));
     return std::nullopt;
 }
 

@@ -1,0 +1,128 @@
+#include "screen/expression/expression_operations.h"
+
+#include <gtest/gtest.h>
+
+#include "screen/expression/expression_characters.h"
+#include "screen/text/cp949.h"
+#include "tests/screen/support/marked_text.h"
+
+namespace jogeon {
+namespace {
+
+using test::MarkedText;
+
+// The marked text afterwards, or what was wrong with the selection: "short", "nothing", "refused at 3".
+std::string After(SelectionEdit (*operation)(std::string_view, TextSelection), const char* marked) {
+    const MarkedText before(marked);
+    const SelectionEdit edit = operation(before.text, before.selection);
+    switch (edit.outcome) {
+        case SelectionEdit::Outcome::Changed:
+            return test::WithMarks(edit.text, edit.selection);
+        case SelectionEdit::Outcome::Nothing:
+            return "nothing";
+        case SelectionEdit::Outcome::TooShort:
+            return "short";
+        default:
+            return "refused at " + std::to_string(edit.check.errorPosition);
+    }
+}
+
+struct Case {
+    const char* before;
+    const char* after;
+};
+
+TEST(ExpressionOperationsTest, NotComesAndGoes) {
+    const Case cases[] = {
+        {"[]A", "short"},
+        {"[A] and B", "[!A] and B"},
+        {"[!A] and B", "[A] and B"},
+        {"[!]A and B", "[]A and B"},  // too short for an expression, and not looked at as one
+        {"A and[ B ]or C", "A and[ !B ]or C"},
+        {"[ !]A", "[ ]A"},
+        {"[A and B]", "[!(A and B)]"},
+        {"[!(A and B)]", "[A and B]"},
+        {"[(A and B)]", "[!(A and B)]"},
+        {"C or[ ! (A and B) ]", "C or[  A and B ]"},
+        {"[!(A) and (B)]", "[!(!(A) and (B))]"},
+        {"[!A and !B]", "[!(!A and !B)]"},
+        {"[!A ]and B", "[!(!A) ]and B"},  // three characters, but no bracket behind the `!`
+        {"[a]", "[!(a)]"},                // not yet a letter of a condition
+        {"[A B]", "refused at 0"},
+        {"[A and] B", "refused at 2"},
+        {"[!(A and)]", "refused at 4"},
+        {"[  ]", "refused at -1"},
+    };
+    for (const Case& each : cases) EXPECT_EQ(each.after, After(ToggleNot, each.before)) << each.before;
+}
+
+TEST(ExpressionOperationsTest, BracketsComeAndGo) {
+    const Case put[] = {
+        {"[]A", "short"},
+        {"[A]", "[(A)]"},
+        {"A or[ B and C ]", "A or[ (B and C) ]"},
+        {"[(A)]", "[((A))]"},
+        {"A and [(B] or C)", "refused at 0"},
+        {"[ ]A", "refused at -1"},
+    };
+    for (const Case& each : put) EXPECT_EQ(each.after, After(Parenthesize, each.before)) << each.before;
+
+    const Case remove[] = {
+        {"[A]", "short"},
+        {"[(A)]", "[A]"},
+        {"[(A and (B or C))]", "[A and (B or C)]"},
+        {"[!(A and B)] or C", "[!A and B] or C"},
+        {"[(A) and (B)]", "[A and (B)]"},
+        {"[A and B]", "nothing"},
+        {"[A and (B]) or C", "refused at 6"},
+        {"([A)] and B", "refused at 1"},
+    };
+    for (const Case& each : remove) {
+        EXPECT_EQ(each.after, After(RemoveParenthesis, each.before)) << each.before;
+    }
+}
+
+TEST(ExpressionOperationsTest, AllMarksGoEvenWhereNoExpressionIsSelected) {
+    const Case cases[] = {
+        {"[!]A", "short"}, {"[!(A and] B)", "[A and] B)"}, {"C or [!(!A and ((B)))]", "C or [A and B]"},
+        {"[((]A", "[]A"},  {"[A and B]", "nothing"},
+    };
+    for (const Case& each : cases) EXPECT_EQ(each.after, After(RemoveAllMarks, each.before)) << each.before;
+}
+
+TEST(ExpressionOperationsTest, LettersAreGivenAnewFromLeftToRight) {
+    struct Renumbering {
+        const char* before;
+        const char* letters;
+        const char* after;
+    };
+    const Renumbering cases[] = {
+        {"B and A", "AB", "A and B"},
+        {"C and (A or !F)", "ABD", "A and (B or !D)"},
+        {"c AND not f", "AB", "A and !B"},
+        {"B and B or A", "AC", "A and C or A"},  // more letters than conditions
+        {"B", "ABC", "A"},
+        {"b and A", "", "b and A"},
+    };
+    for (const Renumbering& each : cases) {
+        EXPECT_EQ(each.after, RenumberLetters(each.before, each.letters)) << each.before;
+    }
+}
+
+TEST(ExpressionCharactersTest, OnlyATextThatGrowsBeyondItsRoomIsRefused) {
+    EXPECT_EQ(8, CompactLength("A and (b OR !c)"));  // A&(B|!C)
+    EXPECT_EQ(2, CompactLength("A an")) << "no longer than the and that it becomes";
+    const std::string full(100, '!');
+    EXPECT_FALSE(RefuseLength("", full));
+    EXPECT_FALSE(RefuseLength(full, full + " "));
+    const auto refusal = RefuseLength(full, full + "!");
+    ASSERT_TRUE(refusal);
+    EXPECT_EQ("조건검색", ToUtf8(refusal->caption));
+    EXPECT_NE(std::string::npos, ToUtf8(refusal->text).find("101자"));
+    EXPECT_FALSE(RefuseLength(full + "!!!", full + "!!")) << "on its way back";
+    EXPECT_FALSE(RefuseLength("", std::string(256, ' ')));
+    EXPECT_TRUE(RefuseLength("", std::string(257, ' ')));
+}
+
+}  // namespace
+}  // namespace jogeon
