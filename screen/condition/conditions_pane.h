@@ -22,10 +22,13 @@ public:
     std::string ExpressionText() const override { return expression_.ExpressionText(); }
     void SetExpressionText(const std::string& text) override { expression_.SetExpressionText(text); }
     void ShowCondition(const CIndexInfo& condition, bool shown) override {
-        panel_.ShowIndex(condition);
+        panel_.ShowIndex(true, &condition, PanelMode::Existing);
         panel_.setVisible(shown);
     }
-    void HidePanel() override { panel_.hide(); }
+    void HidePanel() override {
+        panel_.Reset();
+        panel_.hide();
+    }
 
 private:
     ConditionGrid& grid_;

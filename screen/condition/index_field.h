@@ -20,6 +20,8 @@ public:
     virtual int GetCheck() const = 0;         // 1 checked, 0 not
     virtual void SetCheck(int check) = 0;
     virtual std::string GetSelectedItemText() const = 0;  // of a drop-down list; empty if none is selected
+    virtual int GetSelectedIndex() const = 0;             // the same; -1 if none is selected
+    virtual void Focus() = 0;                             // takes the focus; an entry selects all its text
 };
 
 // Control types, m_nType. Any other number is a label that shows the value.

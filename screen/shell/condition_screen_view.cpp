@@ -47,6 +47,7 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       form_(this),
       expressionEdit_(*services_.questions),
       resultGrid_(*services_.codeLists),
+      panel_(handle_, *services_.questions, *services_.links),
       channel_(*services_.communication, *services_.clock, *services_.questions, [this] { RefreshCursor(); }),
       conditionsPane_(conditionGrid_, expressionEdit_, panel_),
       editor_(conditionsPane_),

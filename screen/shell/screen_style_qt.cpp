@@ -24,7 +24,10 @@ QPlainTextEdit#%8 { background: %9; border: 1px solid %2; color: %4; font-weight
 QLabel#%10 { font-weight: bold; }
 QLabel#%11 { background: %3; border: 1px solid %2; padding-left: 4px; }
 QLabel#%12, QLabel#%13 { font-weight: bold; }
+QLabel:disabled, QRadioButton:disabled, QCheckBox:disabled { color: %5; }
 jogeon--BBoxPanel { background: %3; border: 1px solid %2; color: %4; }
+jogeon--BBoxPanel QPushButton[usual="true"] { border-color: %6; color: %6; font-weight: bold; }
+jogeon--BBoxPanel QPushButton[usual="true"]:pressed { background: %2; }
 )";
 
 }  // namespace

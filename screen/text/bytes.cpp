@@ -1,9 +1,11 @@
 #include "screen/text/bytes.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <charconv>
 #include <climits>
 #include <cstdlib>
+#include <iterator>
 
 namespace jogeon {
 namespace {
@@ -52,6 +54,20 @@ std::string ZeroPadded(int value, int width) {
     const auto wanted = static_cast<std::size_t>(std::max(width, 0));
     if (digits.size() < wanted) digits.insert(sign, wanted - digits.size(), '0');
     return digits;
+}
+
+std::string FixedDecimal(double value, int decimals) {
+    std::string digits(static_cast<std::size_t>(DBL_MAX_10_EXP + 4 + std::max(decimals, 0)), '\0');
+    char* const end = digits.data() + digits.size();
+    const auto written = std::to_chars(digits.data(), end, value, std::chars_format::fixed, decimals);
+    digits.resize(static_cast<std::size_t>(written.ptr - digits.data()));
+    return digits;
+}
+
+std::string GeneralDecimal(double value) {
+    char digits[32];
+    const auto end = std::to_chars(digits, std::end(digits), value, std::chars_format::general, 6).ptr;
+    return std::string(digits, end);
 }
 
 std::string RightIn(std::string_view text, std::size_t width) {

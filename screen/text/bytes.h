@@ -22,6 +22,10 @@ double Atof(std::string_view text);
 std::string Decimal(int value);
 std::string ZeroPadded(int value, int width);
 
+// printf's "%.*f" and "%g" with a point, whatever the desktop's language has.
+std::string FixedDecimal(double value, int decimals);
+std::string GeneralDecimal(double value);
+
 // "%*.*s" and "%-*.*s" with width and precision `width`: cut to it, or filled with blanks on the other side.
 std::string RightIn(std::string_view text, std::size_t width);
 std::string LeftIn(std::string_view text, std::size_t width);

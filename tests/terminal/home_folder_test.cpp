@@ -30,6 +30,7 @@ TEST(HomeFolderTest, AChosenHomeIsFilledButWhatIsThereStays) {
               Content(first.configuration + "/Norvik.ini"));
     EXPECT_TRUE(QDir(home + "/User").exists());
     EXPECT_FALSE(Content(home + "/Screen/Dlg/0150TempGrid.dlg").isEmpty());
+    EXPECT_TRUE(Content(home + "/Image/Pattern/doji.bmp").startsWith("BM"));
 
     Write(home + "/System/XcsFid.dat", "mine");
     Write(home + "/User/x_SaveIndex0.dat", "mine too");

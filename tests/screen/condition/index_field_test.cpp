@@ -2,19 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/screen/support/fake_control.h"
+
 namespace jogeon {
 namespace {
 
-struct FakeControl : FieldControl {
-    std::string text;
-    std::string item;
-    int check = 0;
-
-    std::string GetText() const override { return text; }
-    int GetCheck() const override { return check; }
-    void SetCheck(int value) override { check = value; }
-    std::string GetSelectedItemText() const override { return item; }
-};
+using test::FakeControl;
 
 CIndexField Options(int type, int role, int selected) {
     CIndexField field;

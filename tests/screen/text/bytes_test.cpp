@@ -27,6 +27,14 @@ TEST(BytesTest, ReadsLeadingNumbers) {
     EXPECT_DOUBLE_EQ(0.0, Atof("."));
 }
 
+TEST(BytesTest, WritesNumbers) {
+    EXPECT_EQ("-2.50", FixedDecimal(-2.5, 2));
+    EXPECT_EQ("12346", FixedDecimal(12345.6, 0));
+    EXPECT_EQ(309u, FixedDecimal(1.7e308, 0).size());
+    EXPECT_EQ("0.1", GeneralDecimal(0.1));
+    EXPECT_EQ("-1.23457e+06", GeneralDecimal(-1234567));
+}
+
 TEST(BytesTest, FillsAndCutsFields) {
     EXPECT_EQ("007", ZeroPadded(7, 3));
     EXPECT_EQ("-07", ZeroPadded(-7, 3));
