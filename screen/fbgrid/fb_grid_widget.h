@@ -7,19 +7,30 @@
 //     grid->InvalidateCell(1, 0);                  // ... and repainted on request
 //
 // The grid takes no decision about its rows: it moves the focus, runs its in-place controls and tells its
-// parent widget by FBGridNotify. Data and sizes are those of FBGridData; user-interface thread only.
+// parent widget by FBGridNotify. Whoever is told may do as he likes, delete rows or the grid itself too.
+// Data and sizes are those of FBGridData; user-interface thread only.
 #pragma once
 
 #include <QAbstractScrollArea>
 #include <QEvent>
 #include <QPixmap>
+#include <QPointer>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <vector>
 
+#include "screen/fbgrid/fb_gesture.h"
 #include "screen/fbgrid/fb_grid_data.h"
+#include "screen/fbgrid/fb_grid_geometry.h"
 
 class CFBGrid;
+class QComboBox;
+
+namespace jogeon {
+class FBInPlaceList;
+struct FBGridLook;
+}  // namespace jogeon
 
 // What the grid tells its parent: sent, not posted, to parentWidget()'s event(). Fields that a code doesn't
 // set are -1; the row is then that of GetFocusedCellID.
@@ -48,14 +59,27 @@ public:
     const int col;
 };
 
+// The colours that go with the keyboard focus, for screens that draw a mark of their own.
+struct FBFocusColours {
+    FBColour back = fbcolour::kHighlight;
+    FBColour unfocusedText = 0xFFFFFF;
+    FBColour focusedText = 0xFFFFFF;
+
+    bool operator==(const FBFocusColours&) const = default;
+};
+
 class FB_GRID_API CFBGrid : public QAbstractScrollArea, public FBGridData {
+    Q_OBJECT
+
 public:
+    // Has no frame; setFrameStyle gives it one.
     explicit CFBGrid(QWidget* parent = nullptr);
     ~CFBGrid() override;
 
-    // Makes it a child of `parent` at `rect`, with the parent's font and the control id `id`. True.
+    // Makes it a child of `parent` at `rect`, with the parent's font and the control id `id`. It appears with
+    // its parent; where that is on the screen already, show() is up to the caller. True.
     bool Create(const QRect& rect, QWidget* parent, int id);
-    int ControlId() const;
+    int ControlId() const { return id_; }
 
     // --- looks
 
@@ -65,7 +89,7 @@ public:
     FBColour GetFixedCellColor() const;
     void SetGridLine(FBColour colour);
 
-    // --- focus
+    // --- focus; a cell that isn't there is ignored
 
     // Gives a cell the focus; a second focus on an edit cell opens its editor, a list cell opens its list,
     // and a check box is toggled unless `noToggle`.
@@ -78,28 +102,43 @@ public:
     void SetFocusRow(int row, int col);
 
     // While a row moves, the Up and Down keys carry the focused row between the bounds; Enter, a click or the
-    // loss of the focus ends it.
+    // loss of the focus ends it. Without a focused cell no move begins.
     void BeginMoveRow(int minRow, int maxRow);
     void EndMoveRow();
 
     // The column whose cells start a drag of their row, -1 for none.
-    void SetDragAndDropColumn(int col);
+    void SetDragAndDropColumn(int col) { dragColumn_ = col; }
+
+    // --- what a click does where there is no pointer: assistive tools
+
+    // Presses and releases the left button on a cell.
+    void PressCell(int row, int col);
 
     // --- repaint and scrolling; `bar` is Qt::Horizontal or Qt::Vertical
 
     bool InvalidateCell(int row, int col);  // false if it isn't on the window
     void InvalidateRow(int row);
+
+    // Scrolls to the start; `redraw` repaints the window.
     void UpdateGrid(bool redraw);
-    void FixScrollBar(bool horizontal,
-                      bool vertical);  // true: shown, disabled, where there is nothing to scroll
+
+    // True: that bar stays, disabled, where there is nothing to scroll.
+    void FixScrollBar(bool horizontal, bool vertical);
+
+    // Fits the bars to the sizes of the rows, the columns and the window.
     void ResetScrollBars();
+
+    // Positions are pixels; one beyond the range is cut to it. `track` asks for the thumb's place.
     void SetScrollPos32(Qt::Orientation bar, int pos, bool redraw);
     int GetScrollPos32(Qt::Orientation bar, bool track = false) const;
 
-    // --- pictures of a row or of a text, for a host that drags one; and a drop from another window, which the grid
-    //     takes no notice of
+    // Where the cells stand on the window just now. It is good until anything is changed.
+    jogeon::FBGridGeometry Geometry() const;
 
-    QPixmap CreateDragImage(int row) const;
+    // --- pictures of a row or of a text, for a host that drags one; and a drop from another window, which
+    //     the grid takes no notice of
+
+    QPixmap CreateDragImage(int row) const;  // null for a row that isn't there
     QPixmap MakeDragImage2(const std::string& text) const;
     void DropData(const std::string& text, QPoint point);
 
@@ -112,9 +151,89 @@ public:
     void SaveToExcelPartially(const std::string& title, int firstCol, int lastCol);
 
 protected:
+    const FBFocusColours& FocusColours() const { return focusColours_; }
+
     void OnSizesChanged(bool redraw) override;
     void OnCellsChanged() override;
 
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
 private:
-    // To the grid's maker: what goes here belongs to the interaction alone.
+    // The control that is open over a cell.
+    struct InPlace {
+        std::shared_ptr<QWidget> control;  // null if none is open; deleted later when nobody holds it
+        CCellID cell;
+        CCell known;                        // the cell as it was last seen here, to tell it from another
+        std::function<void(CCell&)> store;  // writes what the control ends with
+    };
+
+    // Those that return a bool tell the parent, or may let others run: false if that has deleted the grid.
+    bool Notify(int code, int row = -1, int col = -1);
+    bool TakeFocus();
+    bool FocusCell(CCellID cell, bool redraw, bool noToggle);
+    bool ToggleCheck(CCellID cell);
+    void StoreFocus(CCellID cell, bool redraw);
+    bool Exists(CCellID cell) const { return IsValid(cell.row, cell.col); }
+    bool IsButton(CCellID cell) const;
+    const jogeon::FBGridLook& LookNow(CCellID pressedButton) const;
+
+    void PressLeft(QPoint point);
+    bool PressBody(CCellID cell);
+    void DropRow(QPoint point, QMouseEvent& event);
+    bool IsOn(CCellID cell, QPoint point) const;
+    void CancelPointerGesture();
+
+    void Key(int key);
+    void EnterKey();
+    void MoveKey(int key);
+    void PageKey(CCellID at, jogeon::ScrollStep step);
+    void VerticalKey(CCellID at, int direction);
+    void HorizontalKey(CCellID at, int direction);
+    int NextShownColumn(int col, int direction) const;
+    void DropMove();
+
+    void ConnectScrollBars();
+    void OnScrollAction(Qt::Orientation bar, int action);
+    int AfterStep(Qt::Orientation bar, jogeon::ScrollStep step) const;
+    void Scroll(Qt::Orientation bar, jogeon::ScrollStep step);
+    void FitScrollBar(Qt::Orientation bar, const jogeon::ScrollRange& range);
+    QScrollBar& Bar(Qt::Orientation bar) const;
+    jogeon::FBGridGeometry GeometryOf(QSize client) const;
+
+    void OpenEdit(CCellID cell);
+    void OpenList(CCellID cell);
+    void Open(QWidget* control, CCellID cell, std::function<void(CCell&)> store);
+    void Retire(const std::shared_ptr<QWidget>& control);
+    CCell* InPlaceCell();
+    void ConnectList(jogeon::FBInPlaceList& list);
+    void OnListSelection(const QComboBox& list, int index);
+    void WriteInPlace(const std::function<void(CCell&)>& write);
+    bool EndInPlace(bool store);
+    void PlaceInPlace();
+    void DropInPlaceOfOtherCell();
+
+    int id_ = 0;
+    int dragColumn_ = -1;
+    int wheelDelta_ = 0;  // of turns that have not made a whole notch yet
+    int rowsBefore_ = 0;  // the counts when they were last looked at
+    int columnsBefore_ = 0;
+    bool repaintOnScroll_ = true;
+    bool fittingBars_ = false;
+    FBFocusColours focusColours_;
+    jogeon::FBGesture gesture_;
+    InPlace inPlace_;
+    std::unique_ptr<jogeon::FBGridLook> look_;
 };

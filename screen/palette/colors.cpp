@@ -73,12 +73,20 @@ ColorNumber ColorOf(Color color) {
             return 0xffffff;
         case Color::FBCheckDisabledShade:
             return 0x808080;
+        case Color::FBDisabledArrow:
+            return 0xc0c0c0;
         case Color::ExpressionOperator:
             return 0x2d2dd0;
         case Color::ExpressionLetter:
             return 0x000000;
         case Color::ExpressionBracket:
             return 0xd02d2d;
+        case Color::TreeFolder:
+            return 0x6cc4ec;
+        case Color::TreeFolderFront:
+            return 0x9ddcf7;
+        case Color::TreeFolderEdge:
+            return 0x2f86b4;
     }
     return 0;
 }

@@ -46,9 +46,13 @@ enum class Color {
     FBCheckDisabledBack,
     FBCheckDisabledLight,
     FBCheckDisabledShade,
+    FBDisabledArrow,
     ExpressionOperator,
     ExpressionLetter,
     ExpressionBracket,
+    TreeFolder,
+    TreeFolderFront,
+    TreeFolderEdge,
 };
 
 ColorNumber ColorOf(Color color);
