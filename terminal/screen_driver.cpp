@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QTableView>
 #include <QTreeView>
+#include <algorithm>
 
 namespace jogeon::terminal {
 namespace {
@@ -12,13 +13,16 @@ namespace {
 constexpr char kTree[] = "21001";
 constexpr char kResultGrid[] = "21104";
 
+// The roots that hold sets. The others hold indicators, some of which have the name of a set.
+constexpr const char* kSetRoots[] = {"사용자저장조건", "노빅조건"};
+
 // Leaves of a tree in the order they are shown.
 void CollectLeaves(const QAbstractItemModel& model, const QModelIndex& parent, QModelIndexList& leaves) {
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
         if (model.hasChildren(index)) {
             CollectLeaves(model, index, leaves);
-        } else if (parent.isValid()) {
+        } else {
             leaves.append(index);
         }
     }
@@ -26,7 +30,13 @@ void CollectLeaves(const QAbstractItemModel& model, const QModelIndex& parent, Q
 
 QModelIndexList SetsOf(const QWidget& window) {
     QModelIndexList leaves;
-    if (const auto* tree = window.findChild<QTreeView*>(kTree)) CollectLeaves(*tree->model(), {}, leaves);
+    const auto* tree = window.findChild<QTreeView*>(kTree);
+    for (int row = 0; tree && row < tree->model()->rowCount(); ++row) {
+        const QModelIndex root = tree->model()->index(row, 0);
+        if (std::ranges::count(kSetRoots, root.data().toString()) > 0) {
+            CollectLeaves(*tree->model(), root, leaves);
+        }
+    }
     return leaves;
 }
 

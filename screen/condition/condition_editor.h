@@ -1,45 +1,65 @@
 // The conditions being put together: the list, the letters, the expression, and what was changed.
 //
-// The expression has no model behind the text in its box. The editor owns the conditions; it works on grid,
-// box and panel through ConditionView.
+// The expression has no model behind the text in its box: every change of the list rewrites that text. The
+// editor owns the conditions; it works on grid, box and panel through ConditionView, and asks through the
+// host's boxes.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <string>
 #include <vector>
 
-#include "screen/condition/index_info.h"
+#include "screen/condition/condition_view.h"
 #include "screen/condition/saved_index_info.h"
+#include "screen/host/services.h"
+#include "screen/settings/screen_settings.h"
 
 namespace jogeon {
 
-// What the editor needs of the screen. Rows count from 1, the header is row 0.
-class ConditionView {
-public:
-    virtual ~ConditionView() = default;
-
-    // Replaces all rows of the condition grid.
-    virtual void FillConditionGrid(const std::vector<std::unique_ptr<CIndexInfo>>& conditions) = 0;
-    virtual void FocusRow(int row) = 0;
-    virtual void ClearSequenceMarks() = 0;
-
-    virtual std::string ExpressionText() const = 0;  // the display form
-    virtual void SetExpressionText(const std::string& text) = 0;
-
-    // Opens the condition in the parameter panel; `shown` tells whether the panel comes to sight with it.
-    virtual void ShowCondition(const CIndexInfo& condition, bool shown) = 0;
-    virtual void HidePanel() = 0;
+// Columns of the condition grid.
+enum ConditionColumn {
+    kColumnChecked,
+    kColumnLetter,
+    kColumnContent,
+    kColumnValue,
+    kColumnDelete,
+    kColumnUp,
+    kColumnDown,
+    kColumnFirst,
+    kColumnLast,
+    kConditionColumns
 };
 
 class ConditionEditor {
 public:
-    explicit ConditionEditor(ConditionView& view) : view_(view) {}
+    static constexpr std::size_t kLimit = 20;
+
+    // All of these outlive this object; `settings` is read at each command.
+    ConditionEditor(ConditionView& view, host::Questions& questions, const ScreenSettings& settings)
+        : view_(view), questions_(questions), settings_(settings) {}
 
     // Empties list, expression and panel; the next letter is A again.
     void Clear();
 
-    // Shows a saved set's conditions and expression. `panelShown` is false where the layout has no panel.
-    void Load(const CSavedIndexInfo& saved, bool panelShown);
+    // Shows a saved set's conditions and expression.
+    void Load(const CSavedIndexInfo& saved);
+
+    // The panel's commands.
+    void Add();
+    void Replace();
+
+    // What the grid reports, rows with the header as 0. A row without a condition does nothing.
+    void OnCellPressed(int row, int col);
+    void OnButtonPressed(int row, int col);
+    void OnHeaderPressed(int col);
+    void OnDoubleClicked(int row, int col);
+    void OnRowDropped(int target, int source);
+
+    // Sets (mode 0), adds (1) or subtracts (2) bars ago in all conditions; the first that refuses ends it.
+    void ApplyBarsAgo(int amount, int mode);
+
+    // Gives all conditions their letters afresh in list order, in the expression too.
+    void RenumberConditions();
 
     // The conditions in list order; they live until the list changes.
     std::vector<const CIndexInfo*> Conditions() const;
@@ -56,9 +76,31 @@ public:
     void ResetSequence();
 
 private:
+    bool IsRow(int index) const { return index >= 0 && index < static_cast<int>(conditions_.size()); }
+    CIndexInfo& At(int index) { return *conditions_[static_cast<std::size_t>(index)]; }
+    bool Confirmed(const char* question);
+    int CheckedBefore(int index) const;
+
+    bool MakeRoomForOne();
+    void ToggleChecked(int index);
+    void ToggleValue(int index);
+    void CheckAllOrNone();
+    void Move(int from, int to);
+    void Delete(int index);
+    void DropAll();
+
+    void EditCompact(const std::function<void(std::string&)>& edit);
+    void InsertLetterAt(int index, bool negated);
+    bool TakeLetterOut(char letter);
+    void Show(int index);
+    void Changed();
+
     ConditionView& view_;
-    std::vector<std::unique_ptr<CIndexInfo>> conditions_;
+    host::Questions& questions_;
+    const ScreenSettings& settings_;
+    ConditionList conditions_;
     char nextLetter_ = 'A';
+    bool allChecked_ = false;
     bool dirty_ = false;
     int sequenceStep_ = 0;
 };

@@ -14,21 +14,27 @@ public:
     ConditionsPane(ConditionGrid& grid, ExpressionEdit& expression, BBoxPanel& panel)
         : grid_(grid), expression_(expression), panel_(panel) {}
 
-    void FillConditionGrid(const std::vector<std::unique_ptr<CIndexInfo>>& conditions) override {
-        grid_.Fill(conditions);
-    }
+    void FillConditionGrid(const ConditionList& conditions) override { grid_.Fill(conditions); }
+    void UpdateRow(int row, const CIndexInfo& condition) override { grid_.UpdateRow(row, condition); }
+    int FocusedRow() const override { return grid_.FocusedRow(); }
     void FocusRow(int row) override { grid_.FocusRow(row); }
     void ClearSequenceMarks() override { grid_.ClearMarks(); }
     std::string ExpressionText() const override { return expression_.ExpressionText(); }
     void SetExpressionText(const std::string& text) override { expression_.SetExpressionText(text); }
     void ShowCondition(const CIndexInfo& condition, bool shown) override {
-        panel_.ShowIndex(true, &condition, PanelMode::Existing);
+        if (panel_.Current() != &condition) RefreshCondition(condition);
         panel_.setVisible(shown);
+    }
+    void RefreshCondition(const CIndexInfo& condition) override {
+        panel_.ShowIndex(true, &condition, PanelMode::Existing);
     }
     void HidePanel() override {
         panel_.Reset();
         panel_.hide();
     }
+    void ResetPanel() override { panel_.Reset(); }
+    std::unique_ptr<CIndexInfo> PanelCondition() override { return panel_.TakeCondition(); }
+    void OnAdded(const CIndexInfo& condition) override { panel_.OnAdded(condition); }
 
 private:
     ConditionGrid& grid_;

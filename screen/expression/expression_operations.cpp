@@ -117,15 +117,4 @@ SelectionEdit RemoveAllMarks(std::string_view text, TextSelection selection) {
     return Apply(text, selection, kMinimumToRemove, RemoveMarksOfPart);
 }
 
-std::string RenumberLetters(const std::string& display, std::string_view letters) {
-    if (letters.empty()) return display;
-    std::string compact = ToCompactForm(display);
-    for (char& c : compact) {
-        if (c < 'A' || c > 'Z' || letters.empty()) continue;
-        c = letters.front();
-        letters.remove_prefix(1);
-    }
-    return ToDisplayForm(compact);
-}
-
 }  // namespace jogeon

@@ -1,4 +1,4 @@
-// What the buttons beside the expression box do to the selected part of its text, and re-lettering.
+// What the buttons beside the expression box do to the selected part of its text.
 //
 // Relies on the parser for the check of a selection; only the selected text is looked at, as it stands: it is
 // neither trimmed nor widened to words. Positions count bytes of the display form.
@@ -37,9 +37,5 @@ SelectionEdit RemoveParenthesis(std::string_view text, TextSelection selection);
 
 // Takes all brackets and `!` in it away, whatever is left.
 SelectionEdit RemoveAllMarks(std::string_view text, TextSelection selection);
-
-// The display form with its n-th letter as the n-th of `letters`, from left to right. Letters of the text
-// that have none to replace them stay; without any the text is returned as it is.
-std::string RenumberLetters(const std::string& display, std::string_view letters);
 
 }  // namespace jogeon

@@ -25,12 +25,4 @@ std::string RemoveBracketFromClose(std::string text, int closeIndex);
 // goes in its place.
 std::string RemoveBracketFromOpen(std::string text, int openIndex);
 
-// Takes the first occurrence of a letter out of a compact text, with the operator and the brackets that
-// stood with it. Returns true if the letter stood negated by a `!` of its own. A text without the letter
-// stays.
-bool RemoveLetter(std::string& compact, char letter);
-
-// The same for the expression of a saved set, whose indicator is no longer known.
-std::string RemoveLetterFromExpression(std::string exp, char letter);
-
 }  // namespace jogeon

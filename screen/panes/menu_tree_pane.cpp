@@ -1,23 +1,31 @@
 #include "screen/panes/menu_tree_pane.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QShortcut>
+
 #include "screen/files/data_paths.h"
+#include "screen/files/xls_writer.h"
 #include "screen/host/window_messages_qt.h"
+#include "screen/panes/tree_item_qt.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
 namespace {
 
-constexpr char kTreeName[] = "21001";
 constexpr char kSectorClass[] = "0504";
-constexpr int kSetRole = Qt::UserRole;  // a node's place in its root's list of sets
 
-QTreeWidgetItem* AddRoot(QTreeWidget& tree, const char* text) {
-    auto* root = new QTreeWidgetItem(&tree, {QString::fromUtf8(text)});
-    QFont bold = root->font(0);
-    bold.setBold(true);
-    root->setFont(0, bold);
-    root->setExpanded(true);
-    return root;
+// Shows that the program is at work, until it goes out of scope.
+class WaitCursor {
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+bool IsEnter(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -25,37 +33,142 @@ QTreeWidgetItem* AddRoot(QTreeWidget& tree, const char* text) {
 CMenuTreeView::CMenuTreeView(QWidget* parent)
     : QWidget(parent),
       services_(host::Installed()),
-      tree_(this),
-      userRoot_(AddRoot(tree_, "사용자저장조건")),
-      vendorRoot_(AddRoot(tree_, "노빅조건")) {
+      form_(this),
+      m_hUserRoot(AddRoot("사용자저장조건", kImageUserRoot)),
+      m_hVendorRoot(AddRoot("노빅조건", kImageVendorRoot)) {
     host::RegisterWindow(*this);
-    tree_.setObjectName(kTreeName);
-    tree_.setHeaderHidden(true);
-    tree_.setIndentation(14);
-    tree_.setExpandsOnDoubleClick(true);
-    connect(&tree_, &QTreeWidget::itemDoubleClicked, this,
-            [this](QTreeWidgetItem* item) { OnDoubleClick(item); });
+    WireControls();
+    WireKeys();
 }
 
 CMenuTreeView::~CMenuTreeView() = default;
 
-void CMenuTreeView::ShowSavedConditions() {
-    host::LinkStore& links = *services_.links;
-    userSets_ =
-        LoadSavedConditions(SavedConditionPath(GetHomePath(links), GetUserId(links)), catalogue_).sets;
-    FillRoot(*userRoot_, userSets_);
-    LabelUserSets();
+void CMenuTreeView::WireControls() {
+    connect(&form_.find, &QToolButton::clicked, this, [this] { OnFind(); });
+    connect(&form_.findText, &QLineEdit::returnPressed, this, [this] { OnFind(); });
+    connect(&form_.previous, &QToolButton::clicked, this, [this] {
+        if (find_.Previous()) ShowHit();
+    });
+    connect(&form_.next, &QToolButton::clicked, this, [this] {
+        if (find_.Next()) ShowHit();
+    });
+    connect(&form_.tabs, &QTabBar::currentChanged, this, [this](int tab) { OnTab(tab); });
+    connect(&form_.save, &QPushButton::clicked, this, [this] { OnSave(); });
+    for (QTreeWidget* view : {&form_.tree, static_cast<QTreeWidget*>(&form_.list)}) {
+        connect(view, &QTreeWidget::itemClicked, this,
+                [this](QTreeWidgetItem* shown) { OnClick(NodeOf(*shown)); });
+        connect(view, &QTreeWidget::itemDoubleClicked, this,
+                [this](QTreeWidgetItem* shown) { OnDoubleClick(NodeOf(*shown)); });
+        view->installEventFilter(this);
+    }
 }
 
-void CMenuTreeView::ShowNumbers(bool shown) {
-    if (numbersShown_ == shown) return;
-    numbersShown_ = shown;
-    LabelUserSets();
+void CMenuTreeView::WireKeys() {
+    const auto on = [this](const QKeySequence& keys, auto action) {
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    on(QKeySequence(Qt::CTRL | Qt::Key_F), [this] {
+        form_.findText.setFocus();
+        form_.findText.selectAll();
+    });
+    on(QKeySequence(Qt::Key_F3), [this] { form_.next.click(); });
+    on(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { form_.previous.click(); });
+}
+
+TreeItem* CMenuTreeView::AddRoot(const char* text, int image) {
+    auto* root = new TreeItem(ToCp949(text), image);
+    form_.tree.addTopLevelItem(root);
+    return root;
+}
+
+// The catalogue's roots stand between the user's sets and the firm's.
+void CMenuTreeView::LoadCatalogue() {
+    std::map<std::string, std::vector<std::string>> lists{{kSectorClass, {}}};
+    services_.codeLists->Fill(lists);
+    const std::filesystem::path home = GetHomePath(*services_.links);
+    catalogue_.Load(home / kSystemFolder, lists[kSectorClass]);
+    form_.tree.insertTopLevelItems(1, MakeCatalogueItems(catalogue_));
+    for (auto& set : LoadVendorConditions(VendorConditionPath(home), catalogue_)) {
+        // What is left of a set of the firm would find other stocks under its name.
+        if (!set->m_bWhole) continue;
+        auto* node = new TreeItem(set->Name, kImageSavedSet);
+        node->saved = std::move(set);
+        m_hVendorRoot->addChild(node);
+    }
+    QFont bold = form_.tree.font();
+    bold.setBold(true);
+    for (int i = 0; i < form_.tree.topLevelItemCount(); ++i) {
+        QTreeWidgetItem* root = form_.tree.topLevelItem(i);
+        root->setFont(0, bold);
+        root->setExpanded(true);
+    }
 }
 
 void CMenuTreeView::ClearSelection() {
-    tree_.clearSelection();
+    form_.tree.clearSelection();
+    form_.list.clearSelection();
 }
+
+void CMenuTreeView::RefreshColors() {
+    form_.RefreshColors();
+}
+
+// --- picks
+
+TreeItem& CMenuTreeView::NodeOf(QTreeWidgetItem& shown) const {
+    return form_.ListShown() ? FlatList::NodeOf(shown) : static_cast<TreeItem&>(shown);
+}
+
+void CMenuTreeView::OnClick(const TreeItem& node) {
+    if (node.IsLeafWithData() && node.Image() != kImageGroup && node.index) OnPickIndex(*node.index);
+}
+
+// The handler may bring in a new list of sets, and with it the end of `node`.
+void CMenuTreeView::OnDoubleClick(const TreeItem& node) {
+    if (node.saved) {
+        OnPickSaved(node.saved);
+    } else {
+        OnClick(node);
+    }
+}
+
+void CMenuTreeView::OnPickIndex(const CIndexInfo& info) {
+    if (screen_) screen_->OnPickIndex(info, catalogue_.FindFieldsByKey(info.m_strKey));
+}
+
+void CMenuTreeView::OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) {
+    if (screen_) screen_->OnPickSaved(std::move(saved));
+}
+
+// --- tabs and the sheet
+
+void CMenuTreeView::OnTab(int tab) {
+    if (tab == TreeForm::kListTab && !m_bListFilled) FillList();
+    form_.ShowTab(tab);
+    ClearFind();
+}
+
+void CMenuTreeView::FillList() {
+    const WaitCursor working;
+    form_.list.Fill(AllItems(form_.tree));
+    m_bListFilled = true;
+}
+
+void CMenuTreeView::OnSave() {
+    const auto path = services_.questions->AskSavePath({"Excel Worksheet Files (*.xls)", "xls"});
+    if (!path) return;
+    const auto warn = [this](const std::string& text) {
+        services_.questions->Ask({text, "조건검색"_cp949, host::Icon::Warning, host::Buttons::Ok});
+    };
+    XlsWriter sheet;
+    if (!sheet.Open(*path)) return warn("파일을 열 수 없습니다."_cp949);
+    form_.list.WriteTo(sheet);
+    if (!sheet.Close()) warn("파일을 저장할 수 없습니다."_cp949);
+}
+
+// --- events
 
 bool CMenuTreeView::event(QEvent* event) {
     const host::MessageEvent* message = host::AsMessage(event);
@@ -64,43 +177,29 @@ bool CMenuTreeView::event(QEvent* event) {
     return true;
 }
 
+// Enter on a node does what a double click does. A key held down since the find doesn't.
+bool CMenuTreeView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    QTreeWidgetItem* current = form_.Shown().currentItem();
+    if (!IsEnter(key) || !current) return QWidget::eventFilter(watched, event);
+    if (key.isAutoRepeat()) return true;
+    if (current->childCount() > 0) current->setExpanded(!current->isExpanded());
+    OnDoubleClick(NodeOf(*current));
+    return true;
+}
+
+// Keys that the controls have no use for.
+void CMenuTreeView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Down && form_.findText.hasFocus()) {
+        form_.Shown().setFocus();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
 void CMenuTreeView::resizeEvent(QResizeEvent*) {
-    tree_.setGeometry(rect());
-}
-
-void CMenuTreeView::LoadCatalogue() {
-    std::map<std::string, std::vector<std::string>> lists{{kSectorClass, {}}};
-    services_.codeLists->Fill(lists);
-    const std::filesystem::path home = GetHomePath(*services_.links);
-    catalogue_.Load(home / kSystemFolder, lists[kSectorClass]);
-    vendorSets_ = LoadVendorConditions(VendorConditionPath(home), catalogue_);
-    // What is left of a set of the firm would find other stocks under its name.
-    std::erase_if(vendorSets_, [](const auto& set) { return !set->m_bWhole; });
-    FillRoot(*vendorRoot_, vendorSets_);
-}
-
-void CMenuTreeView::FillRoot(QTreeWidgetItem& root, const SavedSets& sets) {
-    qDeleteAll(root.takeChildren());
-    for (std::size_t i = 0; i < sets.size(); ++i) {
-        auto* node = new QTreeWidgetItem(&root, {QString::fromStdString(ToUtf8(sets[i]->Name))});
-        node->setData(0, kSetRole, static_cast<int>(i));
-        node->setToolTip(0, node->text(0));
-    }
-}
-
-void CMenuTreeView::LabelUserSets() {
-    for (int i = 0; i < userRoot_->childCount(); ++i) {
-        const CSavedIndexInfo& set = *userSets_[static_cast<std::size_t>(i)];
-        const std::string label = numbersShown_ ? "[" + set.m_strKey + "]" + set.Name : set.Name;
-        userRoot_->child(i)->setText(0, QString::fromStdString(ToUtf8(label)));
-    }
-}
-
-void CMenuTreeView::OnDoubleClick(QTreeWidgetItem* item) {
-    const QTreeWidgetItem* root = item->parent();
-    if (!root || !screen_) return;
-    const SavedSets& sets = root == userRoot_ ? userSets_ : vendorSets_;
-    screen_->OnPickSaved(sets[static_cast<std::size_t>(item->data(0, kSetRole).toInt())]);
+    form_.setGeometry(rect());
 }
 
 }  // namespace jogeon

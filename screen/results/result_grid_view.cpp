@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/header_style_qt.h"
 #include "screen/results/result_cell_qt.h"
 #include "screen/results/result_model_qt.h"
 #include "screen/transactions/result_columns.h"
@@ -19,15 +20,6 @@ constexpr int kFirstRow = 2;    // grid row of the first result row
 constexpr int kRowPadding = 5;  // pixels of a row beyond its text's height
 constexpr int kHeaderPadding = 8;
 constexpr int kMinNameWidth = 64;  // pixels; a stock's name stays readable
-
-QString HeaderStyle() {
-    return QStringLiteral(
-               "QHeaderView { background: %1; border: none; }"
-               "QHeaderView::section { background: %1; color: %2; border: none; padding: 0 3px;"
-               " border-right: 1px solid %3; border-bottom: 1px solid %3; }")
-        .arg(ToQColor(Color::GridHeaderBack).name(), ToQColor(Color::GridHeaderText).name(),
-             ToQColor(Color::GridHeaderLine).name());
-}
 
 }  // namespace
 

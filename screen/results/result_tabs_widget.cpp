@@ -8,19 +8,20 @@
 namespace jogeon {
 namespace {
 
-QString TabStyle() {
+QString TabStyle(int padding) {
     return QStringLiteral(
-               "QTabBar::tab { background: %1; color: %2; border: 1px solid %3; padding: 2px 10px;"
+               "QTabBar::tab { background: %1; color: %2; border: 1px solid %3; padding: 2px %6px;"
                " margin-right: 2px; }"
                "QTabBar::tab:selected { background: %4; color: %5; border-bottom-color: %4; }")
         .arg(ToQColor(Color::TabBack).name(), ToQColor(Color::TabText).name(),
              ToQColor(Color::TabEdge).name(), ToQColor(Color::TabSelectedBack).name(),
-             ToQColor(Color::TabSelectedText).name());
+             ToQColor(Color::TabSelectedText).name())
+        .arg(padding);
 }
 
 }  // namespace
 
-CNVTab::CNVTab(QWidget* parent) : QTabBar(parent) {
+CNVTab::CNVTab(QWidget* parent, int padding) : QTabBar(parent), padding_(padding) {
     setExpanding(false);
     setDrawBase(false);
     setElideMode(Qt::ElideNone);  // narrow space is scrolled, so that "[12]" can be told from "[1]"
@@ -48,7 +49,7 @@ void CNVTab::RemoveTab(int tab) {
 }
 
 void CNVTab::RefreshColors() {
-    setStyleSheet(TabStyle());
+    setStyleSheet(TabStyle(padding_));
 }
 
 }  // namespace jogeon

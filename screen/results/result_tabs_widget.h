@@ -1,4 +1,4 @@
-// The tabs over the result grid, one for each result. Labels are CP949; tabs count from 0.
+// A row of tabs, as over the result grid, one for each result. Labels are CP949; tabs count from 0.
 //
 // Operations tell nobody: currentChanged reaches a listener only when the user has chosen a tab.
 #pragma once
@@ -12,7 +12,8 @@ class CNVTab : public QTabBar {
     Q_OBJECT
 
 public:
-    explicit CNVTab(QWidget* parent = nullptr);
+    // `padding`: pixels on each side of a label.
+    explicit CNVTab(QWidget* parent = nullptr, int padding = 10);
 
     int TabCount() const { return count(); }
     int SelectedTab() const { return currentIndex(); }  // -1 without tabs
@@ -24,6 +25,9 @@ public:
     void RemoveTab(int tab);
 
     void RefreshColors();  // after a change of the colour table
+
+private:
+    const int padding_;
 };
 
 }  // namespace jogeon

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "screen/condition/token_list.h"
-#include "screen/expression/expression_text.h"
+#include "screen/expression/letter_edits.h"
 #include "screen/files/ini_mem_file.h"
 #include "screen/saved/saved_condition_keys.h"
 #include "screen/text/bytes.h"

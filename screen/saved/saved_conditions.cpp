@@ -6,12 +6,6 @@
 #include "screen/text/cp949.h"
 
 namespace jogeon {
-namespace {
-
-constexpr int kResultsOnlyMode = 2;  // the layout that shows no panel
-
-}  // namespace
-
 SavedConditions::SavedConditions(SavedConditionView& view, ConditionEditor& editor,
                                  host::Questions& questions, host::LinkStore& links,
                                  const ScreenSettings& settings)
@@ -32,7 +26,7 @@ void SavedConditions::LoadCondition(std::shared_ptr<CSavedIndexInfo> record) {
     if (!MayLoseChanges()) return;
     view_.ShowName(record->Name);
     if (!record->m_bVendorSet) TakeTarget(*record);
-    editor_.Load(*record, settings_.expandMode != kResultsOnlyMode);
+    editor_.Load(*record);
     editor_.SetDirty(false);
     currentSaved_ = record->m_bVendorSet ? nullptr : std::move(record);
     view_.EnableSavedCommands(currentSaved_ != nullptr);

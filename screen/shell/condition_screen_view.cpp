@@ -6,6 +6,7 @@
 
 #include "screen/expression/expression_check.h"
 #include "screen/expression/expression_error_dialog.h"
+#include "screen/expression/expression_help_dialog.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/palette/colors_qt.h"
 #include "screen/panes/menu_tree_pane.h"
@@ -46,11 +47,16 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       handle_(host::RegisterWindow(*this)),
       form_(this),
       expressionEdit_(*services_.questions),
+      conditionGrid_(control::kConditionGrid),
       resultGrid_(*services_.codeLists),
       panel_(handle_, *services_.questions, *services_.links),
       channel_(*services_.communication, *services_.clock, *services_.questions, [this] { RefreshCursor(); }),
       conditionsPane_(conditionGrid_, expressionEdit_, panel_),
-      editor_(conditionsPane_),
+      editor_(conditionsPane_, *services_.questions, settings_),
+      expressionCommands_(
+          expressionEdit_, *services_.questions,
+          [this](const std::string& text) { return CheckExpression(text); },
+          [this] { OnExpressionChanged(); }),
       saved_(*this, editor_, *services_.questions, *services_.links, settings_),
       resultControls_(
           {*this, resultGrid_, resultTabs_, form_.ComboAt(control::kScope),
@@ -59,6 +65,7 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
           *services_.questions, *services_.clock),
       results_(resultControls_, columns_, *services_.links, *services_.questions),
       search_(channel_, results_, columns_, *services_.questions, [this] { return GatherSearchInputs(); }) {
+    conditionGrid_.LinkEditor(editor_);
     PlaceControls();
     WireCommands();
     WireReplies();
@@ -78,7 +85,7 @@ void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
 void ConditionScreen::PlaceControls() {
     form_.Place(panel_, control::kPanelArea, control::kPanelArea);
     panel_.hide();
-    form_.Place(conditionGrid_, control::kConditionGridArea, control::kConditionGrid);
+    form_.Place(conditionGrid_, control::kConditionGridArea, control::kConditionGridArea);
     form_.Place(expressionEdit_, control::kExpression, control::kExpression);
     form_.Place(resultTabs_, control::kResultTabs, control::kResultTabs);
     form_.Place(resultGrid_, control::kResultGrid, control::kResultGrid);
@@ -102,8 +109,22 @@ void ConditionScreen::WireCommands() {
     form_.OnClick(control::kSearch, [this] { search_.Start(); });
     form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
     form_.OnClick(control::kClearResults, [this] { ClearResultsCommand(); });
+    form_.OnClick(control::kBarsAgoSet,
+                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 0); });
+    form_.OnClick(control::kBarsAgoAdd,
+                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 1); });
+    form_.OnClick(control::kBarsAgoSubtract,
+                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 2); });
+    form_.OnClick(control::kExpressionNot, [this] { expressionCommands_.OnExpressionNot(); });
+    form_.OnClick(control::kParenthesize, [this] { expressionCommands_.OnExpressionParenthesize(); });
+    form_.OnClick(control::kRemoveParenthesis,
+                  [this] { expressionCommands_.OnExpressionRemoveParenthesis(); });
+    form_.OnClick(control::kRemoveAll, [this] { expressionCommands_.OnExpressionRemoveAll(); });
+    form_.OnClick(control::kExpressionHelp, [this] { OnExpressionHelp(*services_.questions); });
+    form_.OnClick(control::kSaveConditionsAsSheet, [this] { SaveConditionsAsSheet(); });
     form_.OnClick(control::kLeftPaneToggle, [this] { ToggleLeftPane(); });
     form_.OnClick(control::kEnlargeExpression, [this] { ToggleExpressionHeight(); });
+    connect(&expressionEdit_, &ExpressionEdit::Edited, this, [this] { OnExpressionChanged(); });
     connect(&resultTabs_, &QTabBar::currentChanged, this, [this](int tab) { results_.OnTabSelected(tab); });
     connect(&form_.ComboAt(control::kScope), &QComboBox::activated, this, [this](int scope) {
         if (scope != static_cast<int>(SearchScope::Sequential)) editor_.ResetSequence();
@@ -116,6 +137,13 @@ void ConditionScreen::WireReplies() {
     channel_.SetHandler('V', [this](std::string_view reply) { OnListReply(reply); });
 }
 
+void ConditionScreen::OnPickIndex(const CIndexInfo& info, const FieldArray* fields) {
+    picked_ = std::make_unique<CIndexInfo>(info);
+    picked_->CopyFields(fields);
+    panel_.ShowIndex(true, picked_.get(), PanelMode::New);
+    panel_.show();
+}
+
 void ConditionScreen::OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) {
     saved_.LoadCondition(std::move(saved));
 }
@@ -126,6 +154,18 @@ bool ConditionScreen::CheckExpression(const std::string& text) {
     ExpressionErrorDialog dialog(ExpressionErrorText(text, check.errorPosition));
     services_.questions->Run("ExpressionErrorDialog", &dialog);
     return false;
+}
+
+// By hand or by a button: the text is no more what was saved or stepped through.
+void ConditionScreen::OnExpressionChanged() {
+    editor_.ResetSequence();
+    editor_.SetDirty(true);
+}
+
+// Letters and descriptions of the list, with the expression as footer.
+void ConditionScreen::SaveConditionsAsSheet() {
+    conditionGrid_.Cells().SaveToExcelPartially(expressionEdit_.ExpressionText(), kColumnLetter,
+                                                kColumnContent);
 }
 
 void ConditionScreen::ToggleLeftPane() {
@@ -203,6 +243,7 @@ void ConditionScreen::ReadHostColors() {
     }
     resultGrid_.RefreshColors();
     resultTabs_.RefreshColors();
+    treeView_->RefreshColors();
 }
 
 void ConditionScreen::FocusResultGrid() {
@@ -224,9 +265,16 @@ bool ConditionScreen::event(QEvent* event) {
         case host::kHostChanged:
             ChangeHost(static_cast<host::WindowHandle>(message->lParam));
             break;
+        case host::kPanelAdd:
+            editor_.Add();
+            message->result = 1;
+            break;
+        case host::kPanelReplace:
+            editor_.Replace();
+            message->result = 1;
+            break;
         case host::kExpressionChanged:
-            editor_.ResetSequence();
-            editor_.SetDirty(true);
+            OnExpressionChanged();
             message->result = 1;
             break;
         case host::kSettingsFill:

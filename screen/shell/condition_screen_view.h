@@ -47,6 +47,7 @@ public:
     void LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree);
 
     // TreePicks
+    void OnPickIndex(const CIndexInfo& info, const FieldArray* fields) override;
     void OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) override;
 
     // Whether the expression is well formed; if it isn't, the user has been shown where.
@@ -95,6 +96,8 @@ private:
     void FillScopes();
     void WireCommands();
     void WireReplies();
+    void OnExpressionChanged();
+    void SaveConditionsAsSheet();
     void ToggleLeftPane();
     void ToggleExpressionHeight();
     void ChangeTarget();
@@ -123,9 +126,10 @@ private:
     ExpressionEdit expressionEdit_;
     CNVTab resultTabs_;
     ProgressLabel progressBar_;
-    ResultGrid resultGrid_;
     ConditionGrid conditionGrid_;
+    ResultGrid resultGrid_;
     BBoxPanel panel_;
+    std::unique_ptr<CIndexInfo> picked_;  // of the tree, while the panel may show it
     QBrush backBrush_;
     QRect resultGridRect_;
 
@@ -138,6 +142,7 @@ private:
     RequestChannel channel_;
     ConditionsPane conditionsPane_;
     ConditionEditor editor_;
+    ExpressionCommands expressionCommands_;
     SavedConditions saved_;
     ColumnTables columns_;
     ResultControlsView resultControls_;

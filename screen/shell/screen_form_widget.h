@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QSpinBox>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -26,6 +27,7 @@ public:
     QWidget& At(int id) const { return *controls_.at(id); }
     QAbstractButton& ButtonAt(int id) const { return *qobject_cast<QAbstractButton*>(controls_.at(id)); }
     QLabel& LabelAt(int id) const { return *qobject_cast<QLabel*>(controls_.at(id)); }
+    int NumberAt(int id) const { return qobject_cast<QSpinBox*>(controls_.at(id))->value(); }
     QComboBox& ComboAt(int id) const { return *qobject_cast<QComboBox*>(controls_.at(id)); }
 
     // Puts a window of the screen's own on the place of control `placeId`, as control `id`.

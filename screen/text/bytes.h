@@ -43,4 +43,9 @@ std::string UpperCase(std::string_view text);
 // The pieces joined, each followed by `delimiter` but the last.
 std::string Join(const std::vector<std::string>& pieces, std::string_view delimiter);
 
+// The byte at `index`; NUL outside the text, and so for index 0 less 1.
+constexpr char ByteAt(std::string_view text, std::size_t index) {
+    return index < text.size() ? text[index] : '\0';
+}
+
 }  // namespace jogeon

@@ -95,11 +95,15 @@ std::string operator""_cp949(const char* utf8, std::size_t length) {
     return ToCp949(std::string_view(utf8, length));
 }
 
+std::size_t CharacterLength(std::string_view cp949, std::size_t at) {
+    return static_cast<unsigned char>(cp949[at]) >= 0x81 && at + 1 < cp949.size() ? 2 : 1;
+}
+
 std::string_view CutToBytes(std::string_view cp949, std::size_t bytes) {
     if (cp949.size() <= bytes) return cp949;
     std::size_t end = 0;
     while (end < bytes) {
-        const std::size_t next = end + (static_cast<unsigned char>(cp949[end]) >= 0x81 ? 2 : 1);
+        const std::size_t next = end + CharacterLength(cp949, end);
         if (next > bytes) break;
         end = next;
     }

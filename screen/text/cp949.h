@@ -3,6 +3,7 @@
 // Relies on the C library's iconv. A std::string holds CP949 bytes unless its name says utf8.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@ std::string ToUtf8(std::string_view cp949);
 
 // The one form of a literal that enters a record, file or packet: "조건"_cp949.
 std::string operator""_cp949(const char* utf8, std::size_t length);
+
+// Bytes of the character of `text` that begins at `at`: 2 or 1. A first byte without a second counts 1.
+std::size_t CharacterLength(std::string_view cp949, std::size_t at);
 
 // `text` cut to at most `bytes` bytes, never inside a two-byte character.
 std::string_view CutToBytes(std::string_view cp949, std::size_t bytes);

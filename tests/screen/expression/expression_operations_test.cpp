@@ -90,25 +90,6 @@ TEST(ExpressionOperationsTest, AllMarksGoEvenWhereNoExpressionIsSelected) {
     for (const Case& each : cases) EXPECT_EQ(each.after, After(RemoveAllMarks, each.before)) << each.before;
 }
 
-TEST(ExpressionOperationsTest, LettersAreGivenAnewFromLeftToRight) {
-    struct Renumbering {
-        const char* before;
-        const char* letters;
-        const char* after;
-    };
-    const Renumbering cases[] = {
-        {"B and A", "AB", "A and B"},
-        {"C and (A or !F)", "ABD", "A and (B or !D)"},
-        {"c AND not f", "AB", "A and !B"},
-        {"B and B or A", "AC", "A and C or A"},  // more letters than conditions
-        {"B", "ABC", "A"},
-        {"b and A", "", "b and A"},
-    };
-    for (const Renumbering& each : cases) {
-        EXPECT_EQ(each.after, RenumberLetters(each.before, each.letters)) << each.before;
-    }
-}
-
 TEST(ExpressionCharactersTest, OnlyATextThatGrowsBeyondItsRoomIsRefused) {
     EXPECT_EQ(8, CompactLength("A and (b OR !c)"));  // A&(B|!C)
     EXPECT_EQ(2, CompactLength("A an")) << "no longer than the and that it becomes";

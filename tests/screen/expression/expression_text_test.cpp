@@ -71,47 +71,5 @@ TEST(ExpressionTextTest, RemovesABracketWithItsPartner) {
     for (const Case& each : fromOpen) EXPECT_EQ(each.result, RemoveBracketFromOpen(each.text, each.index));
 }
 
-TEST(ExpressionTextTest, RemovesALetter) {
-    struct Case {
-        const char* text;
-        char letter;
-        const char* result;
-        bool negated;
-    };
-    const Case cases[] = {
-        {"A&B|C", 'X', "A&B|C", false},
-        {"A", 'A', "", false},
-        {"A&B|C", 'A', "B|C", false},
-        {"A&B|C", 'B', "A|C", false},
-        {"A&B|C", 'C', "A&B", false},
-        {"(A&B)|C", 'A', "B|C", false},
-        {"!(A&B)|C", 'A', "B|C", false},
-        {"(A&B)|C", 'B', "A|C", false},
-        {"C|(A&B)", 'B', "C|A", false},
-        {"(A)", 'A', "", false},
-        {"!(A)", 'A', "", false},
-        {"C&!(A)", 'A', "C", false},
-        {"!A", 'A', "", true},
-        {"!A&B", 'A', "B", true},
-        {"B&!A", 'A', "B", true},
-        {"B&!A|C", 'A', "B|C", true},
-        {"(!A&B)|C", 'A', "B|C", true},
-        {"C|!(!A&B)", 'A', "C|B", true},
-        {"(!A)&B", 'A', "B", true},
-        {"AB", 'B', "AB", false},
-        // Brackets that someone left open.
-        {"(A&B", 'A', "B", false},
-        {"A)", 'A', "", false},
-        {"C&(A|B", 'A', "&B", false},
-        {"(A)", ')', "(A)", false},  // no letter
-    };
-    for (const Case& each : cases) {
-        std::string text = each.text;
-        EXPECT_EQ(each.negated, RemoveLetter(text, each.letter)) << each.text;
-        EXPECT_EQ(each.result, text) << each.text;
-        EXPECT_EQ(each.result, RemoveLetterFromExpression(each.text, each.letter));
-    }
-}
-
 }  // namespace
 }  // namespace jogeon

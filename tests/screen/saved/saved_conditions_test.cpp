@@ -2,26 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/screen/support/condition_list_view.h"
 #include "tests/screen/support/recorders.h"
 
 namespace jogeon::test {
 namespace {
-
-struct PlainConditionView : ConditionView {
-    void FillConditionGrid(const std::vector<std::unique_ptr<CIndexInfo>>& conditions) override {
-        rows = conditions.size();
-    }
-    void FocusRow(int) override {}
-    void ClearSequenceMarks() override {}
-    std::string ExpressionText() const override { return text; }
-    void SetExpressionText(const std::string& shown) override { text = shown; }
-    void ShowCondition(const CIndexInfo&, bool shown) override { panelShown = shown; }
-    void HidePanel() override { panelShown = false; }
-
-    std::size_t rows = 0;
-    std::string text;
-    bool panelShown = false;
-};
 
 struct PlainSavedView : SavedConditionView {
     void ShowName(const std::string& shown) override { name = shown; }
@@ -51,12 +36,12 @@ protected:
         return set;
     }
 
-    PlainConditionView conditions_;
+    ConditionListView conditions_;
     PlainSavedView view_;
-    ConditionEditor editor_{conditions_};
     ScriptedQuestions questions_;
     RecordingLinkStore links_;
     ScreenSettings settings_;
+    ConditionEditor editor_{conditions_, questions_, settings_};
     SavedConditions saved_{view_, editor_, questions_, links_, settings_};
 };
 
@@ -64,7 +49,7 @@ TEST_F(SavedConditionsTest, NextLetterFollowsTheHighestOfALoadedSet) {
     EXPECT_EQ('A', editor_.NextLetter());
     saved_.LoadCondition(SetWith("x", "CA"));
     EXPECT_EQ('D', editor_.NextLetter());
-    EXPECT_EQ("A and C", conditions_.text);
+    EXPECT_EQ("A and C", conditions_.expression);
     saved_.LoadCondition(SetWith("none", ""));
     EXPECT_EQ('B', editor_.NextLetter()) << "also without a condition";
     saved_.LoadCondition(SetWith("full", "Z"));

@@ -4,12 +4,12 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QTableWidget>
 #include <QTreeWidget>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "screen/fbgrid/fb_grid_widget.h"
 #include "screen/files/profile_text.h"
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/settings/settings_block.h"
@@ -26,11 +26,16 @@ QString TextOf(TestHost& host, int label) {
     return host.Control<QLabel>(label).text();
 }
 
+// The last root of the tree.
+QTreeWidgetItem* FirmRoot(TestHost& host) {
+    auto& tree = host.Control<QTreeWidget>(21001);
+    return tree.topLevelItem(tree.topLevelItemCount() - 1);
+}
+
 // Opens the firm's only set by a double click in the tree.
 void OpenFirmSet(TestHost& host) {
     auto& tree = host.Control<QTreeWidget>(21001);
-    QTreeWidgetItem* set = tree.topLevelItem(1)->child(0);
-    emit tree.itemDoubleClicked(set, 0);
+    emit tree.itemDoubleClicked(FirmRoot(host)->child(0), 0);
 }
 
 void Press(TestHost& host, int button) {
@@ -83,7 +88,7 @@ TEST(ConditionScreenTest, AFirmsSetWithAnUnknownIndicatorIsNotOffered) {
                   "[01]\r\nName=반쪽\r\nExp=A&B\r\nCount=2\r\n"
                   "00=0601010008;A;1;0;;\r\n01=0999990008;B;1;0;;\r\n");
     host.Open();
-    const QTreeWidgetItem* firm = host.Control<QTreeWidget>(21001).topLevelItem(1);
+    const QTreeWidgetItem* firm = FirmRoot(host);
     ASSERT_EQ(1, firm->childCount());
     EXPECT_EQ("돌파", firm->child(0)->text(0));
 }
@@ -115,7 +120,7 @@ TEST(ConditionScreenTest, SearchGoesOutOnceAndItsRowsFillTheGrid) {
     OpenFirmSet(host);
     EXPECT_EQ("돌파", TextOf(host, 21019));
     EXPECT_EQ("A and !B", QString::fromStdString(host.Control<ExpressionEdit>(21089).ExpressionText()));
-    EXPECT_EQ(2, host.Control<QTableWidget>(16129).rowCount());
+    EXPECT_EQ(1 + 2, host.Control<CFBGrid>(16129).GetRowCnt());
 
     const std::size_t before = host.communication.sent.size();
     for (int click = 0; click < 100; ++click) Press(host, 21039);
@@ -197,7 +202,7 @@ TEST(ConditionScreenTest, NewConditionEmptiesTheScreenAndAsksForUnsavedChanges) 
     host.questions.answers = {host::Answer::No};
     Press(host, 21021);
     EXPECT_EQ("", TextOf(host, 21019));
-    EXPECT_EQ(0, host.Control<QTableWidget>(16129).rowCount());
+    EXPECT_EQ(1, host.Control<CFBGrid>(16129).GetRowCnt());
     EXPECT_EQ("", host.Control<ExpressionEdit>(21089).ExpressionText());
     Press(host, 21021);
     EXPECT_EQ(2u, host.questions.boxes.size()) << "nothing unsaved, nothing asked";

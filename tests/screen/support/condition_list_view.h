@@ -1,0 +1,55 @@
+// A condition grid, an expression box and a panel without windows, for tests of the condition editor.
+#pragma once
+
+#include <cctype>
+#include <memory>
+#include <string>
+
+#include "screen/condition/condition_view.h"
+
+namespace jogeon::test {
+
+class ConditionListView : public ConditionView {
+public:
+    void FillConditionGrid(const ConditionList& conditions) override {
+        rows.clear();
+        for (const auto& condition : conditions) rows += Mark(*condition);
+    }
+    void UpdateRow(int row, const CIndexInfo& condition) override {
+        rows.at(static_cast<std::size_t>(row - 1)) = Mark(condition);
+    }
+    void FocusRow(int row) override { focusedRow = row; }
+    int FocusedRow() const override { return focusedRow; }
+    void ClearSequenceMarks() override {}
+    std::string ExpressionText() const override { return expression; }
+    void SetExpressionText(const std::string& text) override { expression = text; }
+    void ShowCondition(const CIndexInfo& condition, bool shown) override {
+        panel = condition.m_chLetter;
+        panelShown = shown;
+    }
+    void RefreshCondition(const CIndexInfo& condition) override { panel = condition.m_chLetter; }
+    void HidePanel() override { panelShown = false; }
+    void ResetPanel() override { panel.clear(); }
+    std::unique_ptr<CIndexInfo> PanelCondition() override {
+        auto condition = std::make_unique<CIndexInfo>();
+        condition->m_strKey = panelKey;
+        return condition;
+    }
+    void OnAdded(const CIndexInfo& condition) override { panel = condition.m_chLetter; }
+
+    // One letter a row; a small one for an unchecked condition.
+    std::string rows;
+    std::string expression;
+    std::string panel;  // the letter of the condition in the panel
+    std::string panelKey = "0101010008";
+    bool panelShown = false;
+    int focusedRow = -1;
+
+private:
+    static char Mark(const CIndexInfo& condition) {
+        const char letter = condition.m_chLetter;
+        return condition.m_bChecked ? letter : static_cast<char>(std::tolower(letter));
+    }
+};
+
+}  // namespace jogeon::test
