@@ -42,12 +42,14 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
     const QCommandLineOption home("home", "Keep data files and the user's own files here.", "DIR");
     const QCommandLineOption market("market", "Search this market file; without it, a generated market.",
                                     "FILE");
+    const QCommandLineOption store("store", "Keep the users' condition sets in this file, not in the home.",
+                                   "FILE");
     const QCommandLineOption open("open", "Open this condition set at the start.", "SET");
     const QCommandLineOption trace("trace", "Print each request and reply as it goes.");
     const QCommandLineOption demonstrate(
         "demonstrate", "Open a set, search, write a picture of the screen, print the first rows, end.",
         "PICTURE");
-    parser.addOptions({user, home, market, open, trace, demonstrate});
+    parser.addOptions({user, home, market, store, open, trace, demonstrate});
 
     *status = kWrongUse;
     if (!parser.parse(arguments)) {
@@ -59,7 +61,7 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
         *status = 0;
         return std::nullopt;
     }
-    Options options{parser.value(user), parser.value(home),        parser.value(market),
+    Options options{parser.value(user), parser.value(home),        parser.value(market), parser.value(store),
                     parser.value(open), parser.value(demonstrate), parser.isSet(trace)};
     if (const QString fault = Fault(parser, options); !fault.isEmpty()) {
         Print(stderr, "jogeon: " + fault + "\n");

@@ -11,6 +11,7 @@ struct Options {
     QString user;         // 1 to 8 of A-Z, a-z, 0-9 and _
     QString home;         // empty: the user's own data folder
     QString market;       // a market file; empty: the generated market
+    QString store;        // the file of the users' condition sets; empty: in the home folder
     QString openSet;      // a condition set to open at the start
     QString demonstrate;  // where to write the picture; empty: an ordinary start
     bool trace = false;

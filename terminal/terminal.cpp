@@ -1,11 +1,13 @@
 #include "terminal/terminal.h"
 
+#include <QFile>
 #include <cstdio>
 #include <filesystem>
 
 #include "screen/host/message_boxes_qt.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
+#include "server/service/local_service.h"
 #include "terminal/trace.h"
 
 namespace jogeon::terminal {
@@ -19,6 +21,19 @@ void PrintLine(const std::string& line) {
     std::fprintf(stderr, "jogeon: %s\n", line.c_str());
 }
 
+std::filesystem::path NativePath(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+// The service of this process, on its own market and store.
+std::unique_ptr<service::Service> StartService(const Options& options, const HomeFolder& home,
+                                               const std::shared_ptr<const market::Market>& market) {
+    const std::filesystem::path file =
+        options.store.isEmpty() ? store::StorePath(NativePath(home.path)) : NativePath(options.store);
+    auto store = std::make_unique<service::StoreService>(file, PrintLine);
+    return std::make_unique<service::LocalService>(market, std::move(store), PrintLine);
+}
+
 ServiceCommunication::Tracer TracerOf(const Options& options) {
     if (!options.trace) return {};
     return [](const TracedPacket& packet) { std::fputs(Describe(packet).c_str(), stderr); };
@@ -29,10 +44,10 @@ ServiceCommunication::Tracer TracerOf(const Options& options) {
 Terminal::Terminal(const Options& options)
     : home_(PrepareHome(options.home)),
       market_(LoadMarket(options.market)),
-      service_(market_, PrintLine),
-      communication_(service_, options.user.toStdString(), TracerOf(options)),
-      links_(options.user.toStdString(), home_, service_.Accounts(options.user.toStdString())),
-      codeLists_(service_, options.user.toStdString()),
+      service_(StartService(options, home_, market_)),
+      communication_(*service_, options.user.toStdString(), TracerOf(options)),
+      links_(options.user.toStdString(), home_, service_->Accounts(options.user.toStdString())),
+      codeLists_(*service_, options.user.toStdString()),
       module_(ScreenModule::DefaultPath()),
       window_(options.user, *market_) {
     for (const QString& file : home_.kept) {

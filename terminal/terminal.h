@@ -33,7 +33,7 @@ public:
 private:
     const HomeFolder home_;
     const std::shared_ptr<const market::Market> market_;
-    service::SearchService service_;
+    const std::unique_ptr<service::Service> service_;
     ServiceCommunication communication_;
     Links links_;
     ServiceCodeLists codeLists_;

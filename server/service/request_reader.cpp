@@ -6,54 +6,20 @@
 #include "screen/text/bytes.h"
 #include "screen/transactions/condition_block.h"
 #include "screen/transactions/condition_header.h"
+#include "server/service/payload_reader.h"
 #include "server/service/search_layout.h"
 
 namespace jogeon::service {
 namespace {
 
-using engine::BadSearch;
 using engine::Scope;
 namespace layout = search_request;
-
-// A cursor over the payload that never leaves it.
-class PayloadReader {
-public:
-    explicit PayloadReader(std::string_view payload) : rest_(payload) {}
-
-    std::string_view Take(std::size_t width) {
-        if (rest_.size() < width) throw BadSearch("the request ends too early");
-        const std::string_view field = rest_.substr(0, width);
-        rest_.remove_prefix(width);
-        return field;
-    }
-
-    // Digits and nothing else; no field is so wide that they don't fit an int.
-    int TakeNumber(std::size_t width) {
-        const std::string_view digits = Take(width);
-        const bool ok =
-            std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-        if (!ok) throw BadSearch(engine::Quoted(digits) + " is no number");
-        return Atoi(digits);
-    }
-
-    // The width of `count` elements, refused before anything is built for a count that can't be true.
-    std::string_view TakeList(int count, std::size_t width) {
-        return Take(static_cast<std::size_t>(count) * width);
-    }
-
-    void End() const {
-        if (!rest_.empty()) throw BadSearch("the request goes on behind its end");
-    }
-
-private:
-    std::string_view rest_;
-};
 
 Scope ReadScope(std::string_view field) {
     if (field == "0") return Scope::Whole;
     if (field == "1") return Scope::Within;
     if (field == "2") return Scope::Outside;
-    throw BadSearch(engine::Quoted(field) + " is no scope");
+    throw BadRequest(engine::Quoted(field) + " is no scope");
 }
 
 // The header's own reading takes an unknown month code for every month, which is another search.
@@ -62,7 +28,7 @@ void CheckMonth(std::string_view header) {
     const int month = ReadNumber(header, condition_header::kMonthValue);
     const bool other = code == "5";
     if (code < "0" || code > "5" || (other && (month < 1 || month > 12)))
-        throw BadSearch("the settlement month can't be read");
+        throw BadRequest("the settlement month can't be read");
 }
 
 ConditionHeader ReadHeader(std::string_view bytes) {
@@ -70,12 +36,12 @@ ConditionHeader ReadHeader(std::string_view bytes) {
     const std::size_t groups = static_cast<std::size_t>(
         PayloadReader(Read(bytes, slots::kGroupCount)).TakeNumber(slots::kGroupCount.width));
     if (groups > slots::kMaxGroupCodes)
-        throw BadSearch("the target names more groups than there is room for");
+        throw BadRequest("the target names more groups than there is room for");
     CheckMonth(bytes);
     const int count = PayloadReader(Read(bytes, slots::kCount)).TakeNumber(slots::kCount.width);
     std::optional<ConditionHeader> header = DecodeConditionHeader(bytes);
     if (!header || header->count != count || header->target.Group.size() != groups)
-        throw BadSearch("the condition header can't be read");
+        throw BadRequest("the condition header can't be read");
     return *std::move(header);
 }
 
@@ -83,7 +49,7 @@ std::vector<DecodedBlock> ReadBlocks(PayloadReader& reader, int count) {
     std::vector<DecodedBlock> blocks;
     for (int i = 0; i < count; ++i) {
         std::optional<DecodedBlock> block = DecodeConditionBlock(reader.Take(kConditionBlockSize));
-        if (!block) throw BadSearch("a condition block can't be read");
+        if (!block) throw BadRequest("a condition block can't be read");
         blocks.push_back(*std::move(block));
     }
     return blocks;

@@ -22,7 +22,7 @@ struct PageRequest {
     int received = 0;  // rows that the asker has
 };
 
-// Both throw engine::BadSearch.
+// Both throw BadRequest.
 SearchRequest ReadSearchRequest(std::string_view payload);
 PageRequest ReadPageRequest(std::string_view payload);
 

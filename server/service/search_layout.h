@@ -1,4 +1,4 @@
-// The fixed parts of the requests that the service answers, in the order of their bytes.
+// The fixed parts of the requests of a search, in the order of their bytes.
 //
 // The condition header and block, and the reply, have their layouts beside the screen's own code.
 #pragma once
@@ -9,7 +9,6 @@
 namespace jogeon::service {
 
 inline constexpr std::string_view kSearchTransaction = "pisoscop";
-inline constexpr std::string_view kStoreTransaction = "pisodbop";
 
 // "T": these, then the condition blocks, the column list, and for a narrowing search the code list.
 namespace search_request {
@@ -31,15 +30,5 @@ inline constexpr ByteField kUser{9, 8};
 inline constexpr ByteField kResultHandle{17, 2};
 inline constexpr ByteField kReceived{19, 4};
 }  // namespace page_request
-
-// "V" of the store, 19 bytes, and the part of its answer that stands before the records.
-namespace version_request {
-inline constexpr std::size_t kSize = 19;
-}
-namespace version_reply {
-inline constexpr ByteField kLetter{0, 1};
-inline constexpr ByteField kAnswer{1, 1};  // "E": the user's sets are as he has them
-inline constexpr std::size_t kSize = 24;
-}  // namespace version_reply
 
 }  // namespace jogeon::service

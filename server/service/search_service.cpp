@@ -20,8 +20,6 @@ namespace {
 constexpr char kStart = 'T';
 constexpr char kNextPage = 'N';
 constexpr char kRelease = 'Z';
-constexpr char kVersion = 'V';
-constexpr std::string_view kEqual = "E";
 
 // The columns asked for that exist, each once. The stock itself needs no asking: it is the first field of
 // every row.
@@ -39,14 +37,6 @@ void CutToTotal(engine::SearchResult& result) {
     if (result.matches.size() <= kMaxTotal) return;
     result.matches.resize(kMaxTotal);
     for (engine::ValueColumn& column : result.values) column.values.resize(kMaxTotal);
-}
-
-std::string AnswerVersion(const std::string& payload) {
-    if (payload.size() < version_request::kSize) return {};
-    std::string reply(version_reply::kSize, ' ');
-    Write(reply, version_reply::kLetter, std::string_view(&kVersion, 1));
-    Write(reply, version_reply::kAnswer, kEqual);
-    return reply;
 }
 
 }  // namespace
@@ -84,7 +74,8 @@ struct SearchService::State {
         try {
             if (letter == kStart) return AnswerSearch(request);
             if (letter == kNextPage) return AnswerNextPage(request);
-        } catch (const std::runtime_error& error) {  // a bad search or condition, or a damaged market file
+        } catch (const std::runtime_error&
+                     error) {  // a bad request, search or condition, or a damaged market file
             Log(error);
             return BuildFailure(letter);
         }
@@ -110,11 +101,8 @@ SearchService::SearchService(std::shared_ptr<const market::Market> market, Failu
 SearchService::~SearchService() = default;
 
 std::string SearchService::Handle(const Request& request) {
-    if (request.payload.empty()) return {};
-    if (request.transaction == kSearchTransaction) return state_->AnswerSearchTransaction(request);
-    if (request.transaction == kStoreTransaction && request.payload.front() == kVersion)
-        return AnswerVersion(request.payload);
-    return {};
+    if (request.payload.empty() || request.transaction != kSearchTransaction) return {};
+    return state_->AnswerSearchTransaction(request);
 }
 
 bool SearchService::FillCodeLists(const std::string& user,

@@ -5,40 +5,25 @@
 // than fail the request.
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "server/market/market.h"
+#include "server/service/request.h"
 
 namespace jogeon::service {
 
-// A request as the host hands it over. `user` and `window` are whose results it is about: the host knows
-// them for certain, so that the copies inside the payload are not looked at.
-struct Request {
-    std::string user;
-    std::uint32_t window = 0;
-    std::string transaction;  // eight bytes
-    std::uint8_t key = 0;
-    std::string payload;  // CP949
-};
-
 class SearchService {
 public:
-    // Told, in one line of UTF-8, why a request failed: the reply itself has no room for it.
-    using FailureLog = std::function<void(const std::string&)>;
-
     // Throws MarketError when the market's last day can't be read.
     explicit SearchService(std::shared_ptr<const market::Market> market, FailureLog log = {});
     ~SearchService();
     SearchService(const SearchService&) = delete;
     SearchService& operator=(const SearchService&) = delete;
 
-    // The payload of the reply; empty for a request that has none.
+    // The payload of the reply; empty for a request that has none, and for any that is no search's.
     std::string Handle(const Request& request);
 
     // Fills the array of every class that is a key of `lists`: a three-byte code, a blank and the name in

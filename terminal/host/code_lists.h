@@ -1,17 +1,17 @@
-// Code lists and stock names, which the search service has.
+// Code lists and stock names, which the service has.
 #pragma once
 
 #include <string>
 #include <utility>
 
 #include "screen/host/services.h"
-#include "server/service/search_service.h"
+#include "server/service/service.h"
 
 namespace jogeon::terminal {
 
 class ServiceCodeLists : public host::CodeLists {
 public:
-    ServiceCodeLists(service::SearchService& service, std::string user)
+    ServiceCodeLists(service::Service& service, std::string user)
         : service_(service), user_(std::move(user)) {}
 
     bool Fill(std::map<std::string, std::vector<std::string>>& lists) override {
@@ -20,7 +20,7 @@ public:
     std::string StockName(const std::string& code) override { return service_.StockName(code); }
 
 private:
-    service::SearchService& service_;
+    service::Service& service_;
     const std::string user_;
 };
 

@@ -9,7 +9,7 @@
 
 namespace jogeon::terminal {
 
-ServiceCommunication::ServiceCommunication(service::SearchService& service, std::string user, Tracer trace)
+ServiceCommunication::ServiceCommunication(service::Service& service, std::string user, Tracer trace)
     : service_(service), user_(std::move(user)), trace_(std::move(trace)) {
     worker_.setMaxThreadCount(1);
 }

@@ -1,4 +1,4 @@
-// The screen's transport: requests go to the search service on a thread of its own, replies come back to the
+// The screen's transport: requests go to the service on a thread of its own, replies come back to the
 // screen's window as messages.
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <string>
 
 #include "screen/host/services.h"
-#include "server/service/search_service.h"
+#include "server/service/service.h"
 
 namespace jogeon::terminal {
 
@@ -25,7 +25,7 @@ public:
     using Tracer = std::function<void(const TracedPacket&)>;
 
     // `trace` may be empty; it is called on the user-interface thread. The service outlives this object.
-    ServiceCommunication(service::SearchService& service, std::string user, Tracer trace);
+    ServiceCommunication(service::Service& service, std::string user, Tracer trace);
     ~ServiceCommunication() override;
 
     int CommRequestData(host::WindowHandle window, std::vector<std::string> records, int, int, int,
@@ -39,7 +39,7 @@ private:
     void Answer(host::WindowHandle window, const service::Request& request);
     void Deliver(host::WindowHandle window, const TracedPacket& reply);
 
-    service::SearchService& service_;
+    service::Service& service_;
     const std::string user_;
     const Tracer trace_;
     int underWay_ = 0;    // requests whose answer has not been delivered

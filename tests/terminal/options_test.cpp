@@ -38,12 +38,13 @@ TEST(OptionsTest, WrongUseIsToldInOneLine) {
 TEST(OptionsTest, GoodOptionsAreTaken) {
     QTemporaryFile market;
     ASSERT_TRUE(market.open());
-    const Outcome outcome = Read(
-        {"--user", "kim_7", "--home", "h", "--market", market.fileName(), "--open", "정배열", "--trace"});
+    const Outcome outcome = Read({"--user", "kim_7", "--home", "h", "--market", market.fileName(), "--store",
+                                  "s.sqlite", "--open", "정배열", "--trace"});
     ASSERT_TRUE(outcome.options) << outcome.said;
     EXPECT_EQ("kim_7", outcome.options->user);
     EXPECT_EQ("정배열", outcome.options->openSet);
     EXPECT_EQ(market.fileName(), outcome.options->market);
+    EXPECT_EQ("s.sqlite", outcome.options->store);
     EXPECT_TRUE(outcome.options->trace);
     EXPECT_EQ("guest", Read({}).options->user);
 }

@@ -174,6 +174,19 @@ TEST_F(TerminalTest, DemonstrationWritesAPictureAndNamesTheSetsWhenOneIsUnknown)
               testing::internal::GetCapturedStderr().find(screen_->SetNames()[3].toStdString()));
 }
 
+TEST_F(TerminalTest, StoreLiesInTheHomeAndOneThatCantBeOpenedEndsTheStart) {
+    Open();
+    EXPECT_TRUE(QFile::exists(options_.home + "/Store/conditions.sqlite"));
+    terminal_.reset();
+    options_.store = folder_.path();
+    try {
+        Terminal terminal(options_);
+        ADD_FAILURE() << "a folder was taken for a store";
+    } catch (const std::exception& error) {
+        EXPECT_TRUE(QString(error.what()).startsWith(folder_.path() + ": can't be opened")) << error.what();
+    }
+}
+
 // The exports that a screen of this host must have and that do nothing here.
 TEST(ModuleExportsTest, EmptyFunctionsAnswerAsTheyMust) {
     QLibrary library(SCREEN0150);

@@ -6,6 +6,7 @@
 
 #include "tools/jogeond/import_command.h"
 #include "tools/jogeond/search_command.h"
+#include "tools/jogeond/sets_command.h"
 #include "tools/jogeond/verify_command.h"
 
 namespace {
@@ -17,6 +18,7 @@ constexpr char kHelp[] = R"(Usage: jogeond COMMAND [option]...
 
   import   makes a market file from tables of prices
   search   searches a market with a set of conditions
+  sets     lists, exports and imports a user's condition sets
   verify   reads a market file to its end and says whether it is whole
 
 "jogeond COMMAND --help" tells the options of a command. "jogeond --version" tells the version.
@@ -30,6 +32,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> rest(args.begin() + (args.empty() ? 0 : 1), args.end());
     if (command == "import") return jogeon::RunImport(rest);
     if (command == "search") return jogeon::RunSearch(rest);
+    if (command == "sets") return jogeon::RunSets(rest);
     if (command == "verify") return jogeon::RunVerify(rest);
     if (command == "--help" || command == "-h") {
         std::fputs(kHelp, stdout);

@@ -16,8 +16,12 @@ const OptionSpec& Find(std::span<const OptionSpec> known, const std::string& nam
 }  // namespace
 
 Options::Options(const std::vector<std::string>& args, std::span<const OptionSpec> known,
-                 std::string_view command) {
+                 std::string_view command, std::size_t mostWords) {
     for (std::size_t i = 0; i < args.size(); ++i) {
+        if (!args[i].starts_with("--") && words_.size() < mostWords) {
+            words_.push_back(args[i]);
+            continue;
+        }
         if (!args[i].starts_with("--"))
             throw BadOptions("\"" + args[i] + "\" belongs to no option; \"" + std::string(command) +
                              " --help\" lists them");

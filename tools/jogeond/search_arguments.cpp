@@ -1,37 +1,17 @@
 #include "tools/jogeond/search_arguments.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <optional>
 
 #include "server/market/calendar.h"
+#include "tools/jogeond/shared_options.h"
 
 namespace jogeon {
 namespace {
 
-constexpr std::string_view kHomeVariable = "JOGEON_HOME_DATA";
 constexpr std::string_view kDefaultUser = "guest";
-constexpr std::size_t kMaxUserId = 8;
 
 constexpr OptionSpec kOptions[] = {{"--market"}, {"--set"},  {"--conditions"}, {"--user"},
                                    {"--home"},   {"--date"}, {"--format"},     {"--help", false}};
-
-// The id is part of a file name.
-bool IsUserId(std::string_view id) {
-    return !id.empty() && id.size() <= kMaxUserId && std::all_of(id.begin(), id.end(), [](char c) {
-        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
-    });
-}
-
-// Where the catalogue lies unless the user says so: by the environment, else where it was built or installed.
-std::string DefaultHome() {
-    if (const char* home = std::getenv(std::string(kHomeVariable).c_str())) return home;
-#ifdef JOGEON_HOME_DATA
-    return JOGEON_HOME_DATA;
-#else
-    return {};
-#endif
-}
 
 OutputFormat ParseFormat(const std::string& text) {
     if (text == "table") return OutputFormat::Table;
@@ -75,10 +55,8 @@ SearchArguments ParseSearchArguments(const std::vector<std::string>& args) {
     parsed.market = options.Get("--market");
     parsed.set = options.Get("--set");
     parsed.conditions = options.Get("--conditions");
-    parsed.user = options.Get("--user", kDefaultUser);
-    if (!IsUserId(parsed.user)) throw BadOptions("--user needs 1 to 8 letters, digits or _");
-    parsed.home = options.Get("--home", DefaultHome());
-    if (parsed.home.empty()) throw BadOptions("where is the catalogue? --home DIR says it");
+    parsed.user = UserOption(options, kDefaultUser);
+    parsed.home = HomeOption(options);
     if (options.Has("--date")) parsed.date = ParseDay(options.Get("--date"));
     parsed.format = ParseFormat(options.Get("--format", "table"));
     return parsed;

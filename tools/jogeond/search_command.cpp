@@ -35,7 +35,7 @@ std::shared_ptr<const market::Market> LoadMarket(const SearchArguments& argument
     return asOf;
 }
 
-void LoadCatalogue(const SearchArguments& arguments, service::SearchService& service, Catalogue& catalogue) {
+void LoadCatalogue(const SearchArguments& arguments, service::Service& service, Catalogue& catalogue) {
     std::map<std::string, std::vector<std::string>> lists{{kAllSectors, {}}};
     service.FillCodeLists(arguments.user, lists);
     catalogue.Load(arguments.home / "System", lists[kAllSectors]);
@@ -57,7 +57,7 @@ bool IsNumber(const ResultColumn& column) {
     return !known || known->number;  // what isn't among the fixed ones is a condition's value
 }
 
-PrintedTable TableOf(const ResultSet& result, const service::SearchService& service) {
+PrintedTable TableOf(const ResultSet& result, service::Service& service) {
     const std::vector<std::size_t> columns = ColumnsToPrint(result);
     PrintedTable table;
     table.columns = {{"종목코드", false}, {ToUtf8(result.columns.front()->name), false}};

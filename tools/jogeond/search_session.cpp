@@ -9,6 +9,7 @@
 #include "screen/target/search_target.h"
 #include "screen/text/cp949.h"
 #include "screen/transactions/search_request.h"
+#include "server/service/local_service.h"
 
 namespace jogeon {
 namespace {
@@ -62,7 +63,8 @@ HeaderSource HeaderOf(const CSavedIndexInfo& set, const std::string& user) {
 SearchSession::SearchSession(std::shared_ptr<const market::Market> market, std::string user,
                              const std::filesystem::path& home)
     : user_(std::move(user)),
-      service_(std::move(market), [this](const std::string& why) { failure_ = why; }),
+      service_(std::make_unique<service::LocalService>(std::move(market), nullptr,
+                                                       [this](const std::string& why) { failure_ = why; })),
       columns_(LoadColumns(home, user_)) {
     if (columns_.columns.empty())
         throw SearchFailed("no columns in " + (home / "System" / "XcsFid.dat").string());
@@ -83,7 +85,7 @@ std::string SearchSession::Compose(const CSavedIndexInfo& set) {
 
 std::string SearchSession::Send(std::string payload) {
     failure_.clear();
-    return service_.Handle({user_, kWindow, kTransaction, 1, std::move(payload)});
+    return service_->Handle({user_, kWindow, kTransaction, 1, std::move(payload)});
 }
 
 SearchReply SearchSession::Read(const std::string& reply) const {

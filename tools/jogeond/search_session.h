@@ -11,7 +11,7 @@
 #include "screen/results/result_set.h"
 #include "screen/transactions/result_columns.h"
 #include "server/market/market.h"
-#include "server/service/search_service.h"
+#include "server/service/service.h"
 
 namespace jogeon {
 
@@ -27,7 +27,7 @@ public:
     SearchSession(std::shared_ptr<const market::Market> market, std::string user,
                   const std::filesystem::path& home);
 
-    service::SearchService& Service() { return service_; }
+    service::Service& Service() { return *service_; }
 
     // All rows of the set's search; a set without a universe is searched in all sectors. Throws SearchFailed.
     // The result borrows columns of this session.
@@ -40,7 +40,7 @@ private:
 
     std::string user_;
     std::string failure_;  // why the service refused, from its log
-    service::SearchService service_;
+    std::unique_ptr<service::Service> service_;
     ColumnTables columns_;
 };
 

@@ -191,7 +191,7 @@ TEST_F(SearchServiceTest, EmptyResultIsNoFailure) {
 
 TEST_F(SearchServiceTest, OtherTransactions) {
     const std::string version = "V0kim01   00000.000";
-    EXPECT_EQ(service.Handle({"kim01", 1, "pisodbop", 0xA1, version}), "VE" + std::string(22, ' '));
+    EXPECT_EQ(service.Handle({"kim01", 1, "pisodbop", 0xA1, version}), "");
     EXPECT_EQ(service.Handle({"kim01", 1, "pisodbop", 0xA1, version.substr(0, 18)}), "");
     EXPECT_EQ(service.Handle({"kim01", 1, "PIBOFIDJ", 0xFF, "1"}), "");
     EXPECT_EQ(service.Handle({"kim01", 1, "pisodbop", 0xA1, SearchPayload({.header = Header("A", "00")})}),

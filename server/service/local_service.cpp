@@ -1,0 +1,36 @@
+#include "server/service/local_service.h"
+
+#include <utility>
+
+#include "server/service/store_layout.h"
+
+namespace jogeon::service {
+
+LocalService::LocalService(std::shared_ptr<const market::Market> market, std::unique_ptr<StoreService> store,
+                           FailureLog log)
+    : search_(std::move(market), std::move(log)), store_(std::move(store)) {}
+
+std::string LocalService::Handle(const Request& request) {
+    if (request.transaction != kStoreTransaction) return search_.Handle(request);
+    return store_ ? store_->Handle(request) : std::string();
+}
+
+bool LocalService::FillCodeLists(const std::string& user,
+                                 std::map<std::string, std::vector<std::string>>& lists) {
+    return search_.FillCodeLists(user, lists);
+}
+
+std::vector<std::string> LocalService::Accounts(const std::string& user) {
+    return search_.Accounts(user);
+}
+
+std::string LocalService::AddInterestGroup(const std::string& user, const std::string& name,
+                                           const std::vector<std::string>& codes) {
+    return search_.AddInterestGroup(user, name, codes);
+}
+
+std::string LocalService::StockName(const std::string& code) {
+    return search_.StockName(code);
+}
+
+}  // namespace jogeon::service

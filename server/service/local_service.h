@@ -1,0 +1,32 @@
+// The service in this process: searches over one market, and the store of condition sets.
+#pragma once
+
+#include <memory>
+
+#include "server/service/search_service.h"
+#include "server/service/service.h"
+#include "server/service/store_service.h"
+
+namespace jogeon::service {
+
+class LocalService : public Service {
+public:
+    // Without a store, requests over condition sets have no reply. Throws MarketError when the market's last
+    // day can't be read.
+    LocalService(std::shared_ptr<const market::Market> market, std::unique_ptr<StoreService> store,
+                 FailureLog log = {});
+
+    std::string Handle(const Request& request) override;
+    bool FillCodeLists(const std::string& user,
+                       std::map<std::string, std::vector<std::string>>& lists) override;
+    std::vector<std::string> Accounts(const std::string& user) override;
+    std::string AddInterestGroup(const std::string& user, const std::string& name,
+                                 const std::vector<std::string>& codes) override;
+    std::string StockName(const std::string& code) override;
+
+private:
+    SearchService search_;
+    const std::unique_ptr<StoreService> store_;
+};
+
+}  // namespace jogeon::service

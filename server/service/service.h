@@ -1,0 +1,40 @@
+// What a terminal or a tool needs of the service, wherever it runs.
+//
+// Callable from several threads at once. Texts are CP949.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "server/service/request.h"
+
+namespace jogeon::service {
+
+class Service {
+public:
+    virtual ~Service() = default;
+
+    // The payload of the reply; empty for a request that has none.
+    virtual std::string Handle(const Request& request) = 0;
+
+    // Fills the array of every class that is a key of `lists`: a three-byte code, a blank and the name. A
+    // class that the service doesn't have gets no line. False, with the arrays empty, when the lists can't be
+    // had.
+    virtual bool FillCodeLists(const std::string& user,
+                               std::map<std::string, std::vector<std::string>>& lists) = 0;
+
+    // The numbers of the user's accounts, eleven digits each. Like the next, throws std::runtime_error when
+    // the service can't tell.
+    virtual std::vector<std::string> Accounts(const std::string& user) = 0;
+
+    // Adds a group of stocks, six bytes each, to the user's interest groups and returns its three-byte code;
+    // empty when it isn't taken.
+    virtual std::string AddInterestGroup(const std::string& user, const std::string& name,
+                                         const std::vector<std::string>& codes) = 0;
+
+    // The name of the stock with this six-byte code; empty if it is unknown.
+    virtual std::string StockName(const std::string& code) = 0;
+};
+
+}  // namespace jogeon::service
