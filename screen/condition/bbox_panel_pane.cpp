@@ -144,10 +144,18 @@ void BBoxPanel::CreateFields(const FieldArray& source) {
     }
 }
 
+// The fields come in front of the buttons, behind whatever the Tab key reaches before the panel.
 void BBoxPanel::SetTabOrder() {
     std::vector<QWidget*> stops = controls_.TabStops();
     stops.insert(stops.end(), {&add_, &modify_});
-    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+    QWidget* before = &add_;
+    do {
+        before = before->previousInFocusChain();
+    } while (before != &add_ && (before->focusPolicy() == Qt::NoFocus || isAncestorOf(before)));
+    for (QWidget* stop : stops) {
+        setTabOrder(before, stop);
+        before = stop;
+    }
 }
 
 // The fields outside the chosen variant keep what they hold.

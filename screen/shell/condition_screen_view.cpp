@@ -13,6 +13,7 @@
 #include "screen/settings/settings_block.h"
 #include "screen/shell/control_icons_qt.h"
 #include "screen/shell/host_color_numbers.h"
+#include "screen/shell/screen_keys_qt.h"
 #include "screen/shell/screen_splitter_widget.h"
 #include "screen/shell/screen_style_qt.h"
 #include "screen/target/target_dialog.h"
@@ -78,6 +79,7 @@ ConditionScreen::~ConditionScreen() {
 void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
     splitterWindow_ = host::HandleOf(&splitter);
     treeView_ = &tree;
+    WireScreenKeys(splitter, form_);
 }
 
 // --- controls and commands
@@ -90,6 +92,7 @@ void ConditionScreen::PlaceControls() {
     form_.Place(resultTabs_, control::kResultTabs, control::kResultTabs);
     form_.Place(resultGrid_, control::kResultGrid, control::kResultGrid);
     form_.Place(progressBar_, control::kProgress, control::kProgress);
+    form_.OrderTabs();
     host::RegisterWindow(resultGrid_);
     host::RegisterWindow(form_.At(control::kCodeList));
 }

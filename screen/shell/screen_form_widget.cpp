@@ -4,6 +4,8 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QToolButton>
+#include <algorithm>
+#include <vector>
 
 #include "screen/shell/control_icons_qt.h"
 
@@ -72,6 +74,23 @@ void ScreenForm::Place(QWidget& window, int placeId, int id) {
     window.setObjectName(QString::number(id));
     window.show();
     controls_[id] = &window;
+}
+
+void ScreenForm::OrderTabs() {
+    std::vector<QWidget*> stops;
+    for (const auto& [id, control] : controls_) {
+        if (control->focusPolicy() & Qt::TabFocus) stops.push_back(control);
+        for (QWidget* part : control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            const bool ownStop = control->focusPolicy() == Qt::NoFocus && part->focusPolicy() & Qt::TabFocus;
+            if (ownStop) stops.push_back(part);
+        }
+    }
+    const auto place = [this](const QWidget* stop) {
+        const QPoint at = stop->mapTo(this, QPoint());
+        return std::pair(at.y(), at.x());
+    };
+    std::stable_sort(stops.begin(), stops.end(), [&](auto* a, auto* b) { return place(a) < place(b); });
+    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
 void ScreenForm::SetCaptions() {

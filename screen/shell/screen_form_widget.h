@@ -33,6 +33,9 @@ public:
     // Puts a window of the screen's own on the place of control `placeId`, as control `id`.
     void Place(QWidget& window, int placeId, int id);
 
+    // Lets the Tab key go through the controls and windows row by row, once all of them are placed.
+    void OrderTabs();
+
     // Captions and tooltips of the table, in its order.
     void SetCaptions();
 

@@ -151,6 +151,27 @@ TEST_F(ComposingTest, WithTheKeyboardAlone) {
     EXPECT_EQ(2, grid.GetRowCnt());
 }
 
+// From the buttons above the panel through its fields to the list, the expression and the results.
+TEST_F(ComposingTest, TabGoesThroughTheScreenRowByRow) {
+    Pick("주가이평돌파");
+    std::vector<QPoint> places;
+    QWidget& first = host.Control<QWidget>(21026);
+    QWidget* stop = &first;
+    do {
+        const bool shown = stop->isVisibleTo(&host.frame) && stop->isEnabled();
+        if (shown && stop->focusPolicy() & Qt::TabFocus && host.Screen().isAncestorOf(stop)) {
+            places.push_back(stop->mapTo(&host.Screen(), QPoint()));
+        }
+        stop = stop->nextInFocusChain();
+    } while (stop != &first && stop != &host.Control<QWidget>(21104));
+    ASSERT_GT(places.size(), 12u);
+    int backwards = 0;
+    for (std::size_t i = 1; i < places.size(); ++i)
+        backwards += places[i].y() < places[i - 1].y() - 4 ? 1 : 0;
+    EXPECT_LE(backwards, 2) << "only the columns of the panel's fields and its buttons go up again";
+    EXPECT_EQ(&host.Control<QWidget>(21104), stop);
+}
+
 TEST_F(ComposingTest, GridAndListStayTogetherUnderTheMouse) {
     for (const char* name : {"주가이평돌파", "적삼병", "거래량"}) {
         Pick(name);
