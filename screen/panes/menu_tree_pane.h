@@ -17,12 +17,13 @@
 #include "screen/panes/tree_form_widget.h"
 #include "screen/panes/tree_picks.h"
 #include "screen/saved/saved_condition_file.h"
+#include "screen/saved/saved_tree.h"
 
 namespace jogeon {
 
 class TreeItem;
 
-class CMenuTreeView : public QWidget {
+class CMenuTreeView : public QWidget, public SavedTree {
     Q_OBJECT
 
 public:
@@ -33,25 +34,20 @@ public:
     // Where picks go, once, before the first update.
     void LinkScreen(TreePicks& screen) { screen_ = &screen; }
 
-    // Reads the user's sets from their file and shows them in its order.
-    void ShowSavedConditions();
+    // SavedTree
+    const Catalogue& Indicators() const override { return catalogue_; }
+    SavedSets UserSets() const override;
+    void ShowSavedConditions() override;
+    void AddSaved(std::shared_ptr<CSavedIndexInfo> set) override;
+    void ReplaceSaved(std::shared_ptr<CSavedIndexInfo> set) override;
+    void DeleteSaved(std::string_view key) override;
+    void ClearSelection() override;
 
     // The version of the file that ShowSavedConditions has read.
     const std::string& Version() const { return m_strVersion; }
 
-    // Shows a new set of the user's behind those with no greater number.
-    void AddSaved(std::shared_ptr<CSavedIndexInfo> set);
-
-    // Puts the set in the place of the one with its number; without one it is added.
-    void ReplaceSaved(std::shared_ptr<CSavedIndexInfo> set);
-
-    // Takes the user's set with this number away. Without one nothing happens.
-    void DeleteSaved(std::string_view key);
-
     // Whether the user's sets show their numbers before their names.
     void ShowNumbers(bool shown);
-
-    void ClearSelection();
 
     void RefreshColors();  // after a change of the colour table
 

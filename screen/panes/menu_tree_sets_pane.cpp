@@ -18,6 +18,12 @@ void CMenuTreeView::ShowSavedConditions() {
     m_hUserRoot->setExpanded(true);
 }
 
+SavedSets CMenuTreeView::UserSets() const {
+    SavedSets sets;
+    for (int i = 0; i < m_hUserRoot->childCount(); ++i) sets.push_back(UserSet(i).saved);
+    return sets;
+}
+
 void CMenuTreeView::AddSaved(std::shared_ptr<CSavedIndexInfo> set) {
     ClearFind();
     const int number = Atoi(set->m_strKey);

@@ -139,6 +139,15 @@ std::shared_ptr<CSavedIndexInfo> OpenSavedCondition(const std::filesystem::path&
     return nullptr;
 }
 
+std::vector<SavedSetName> ListSavedSets(const std::filesystem::path& file) {
+    const CIniMemFile ini(file.string(), 1);
+    std::vector<SavedSetName> sets;
+    for (const std::string& section : SetSections(ini, 1)) {
+        sets.push_back({section, ini.GetString(section, kName, "")});
+    }
+    return sets;
+}
+
 std::string ReadVersion(const std::filesystem::path& file) {
     return VersionIn(CIniMemFile(file.string(), 1));
 }

@@ -42,6 +42,15 @@ SavedSets LoadVendorConditions(const std::filesystem::path& file, const Catalogu
 std::shared_ptr<CSavedIndexInfo> OpenSavedCondition(const std::filesystem::path& file, std::string_view key,
                                                     const Catalogue& catalogue);
 
+// A set as a list shows it.
+struct SavedSetName {
+    std::string number;
+    std::string name;
+};
+
+// The sets of a user file, in file order.
+std::vector<SavedSetName> ListSavedSets(const std::filesystem::path& file);
+
 // Puts the set into its section of `file`, which keeps key order; nothing reaches the disk. `keepSection`
 // false removes what the section held before.
 void WriteCondition(const CSavedIndexInfo& info, bool keepSection, CIniMemFile& file);
@@ -53,6 +62,14 @@ bool WriteCondition(const CSavedIndexInfo& info, bool keepSection, const std::fi
 // Removes the section of the set with this number from the user file and stamps it with `version`.
 bool DeleteConditionFromFile(std::string_view key, const std::filesystem::path& file,
                              std::string_view version);
+
+// Makes `sets` the whole of the user file on disk, with `version`. False if it can't be saved.
+bool RewriteConditions(const SavedSets& sets, const std::filesystem::path& file, std::string_view version);
+
+// Gives the sets of the user file on disk the numbers "00", "01"... in the order of their present `numbers`,
+// which are all that there are. False if it can't be saved.
+bool RenumberConditions(const std::vector<std::string>& numbers, const std::filesystem::path& file,
+                        std::string_view version);
 
 // The version of a user file; kNoVersion where it has none.
 std::string ReadVersion(const std::filesystem::path& file);

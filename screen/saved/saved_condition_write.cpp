@@ -40,12 +40,20 @@ SectionKeys KeysOf(const CIniMemFile& file, const std::string& section) {
     return keys;
 }
 
-// Saves with the sets in the order of their numbers, behind the version.
-bool SaveSorted(CIniMemFile& ini, const std::filesystem::path& file) {
+void WriteKeys(CIniMemFile& file, const std::string& section, const SectionKeys& keys) {
+    for (const auto& [name, value] : keys) file.WriteString(section, name, value);
+}
+
+bool Save(CIniMemFile& ini, const std::filesystem::path& file) {
     std::error_code error;
     std::filesystem::create_directories(file.parent_path(), error);  // missing in a new home
+    return ini.SaveIniFile(file.string()) != 0;
+}
+
+// Saves with the sets in the order of their numbers, behind the version.
+bool SaveSorted(CIniMemFile& ini, const std::filesystem::path& file) {
     ini.SortSections();
-    return ini.SaveIniFile() != 0;
+    return Save(ini, file);
 }
 
 }  // namespace
@@ -86,7 +94,26 @@ bool DeleteConditionFromFile(std::string_view key, const std::filesystem::path& 
     return SaveSorted(ini, file);
 }
 
-void StampVersion(CIniMemFile& file, std::string_view version) {
+bool RewriteConditions(const SavedSets& sets, const std::filesystem::path& file, std::string_view version) {
+    CIniMemFile ini(1);
+    StampVersion(ini, version);
+    for (const auto& set : sets) WriteCondition(*set, false, ini);
+    return Save(ini, file);
+}
+
+// The keys move as they are: a line that this catalogue can't read stays with its set.
+bool RenumberConditions(const std::vector<std::string>& numbers, const std::filesystem::path& file,
+                        std::string_view version) {
+    const CIniMemFile old(file.string(), 1);
+    CIniMemFile ini(1);
+    StampVersion(ini, version);
+    int place = 0;
+    for (const std::string& number : numbers) WriteKeys(ini, ZeroPadded(place++, 2), KeysOf(old, number));
+    return Save(ini, file);
+}
+
+void StampVersion(CIniMemFile& file, std::string_view text) {
+    const std::string version = OneLine(std::string(text));
     std::vector<std::string> sections;
     file.GetSections(sections);
     const std::set<std::string> names(sections.begin(), sections.end());
@@ -102,9 +129,7 @@ void StampVersion(CIniMemFile& file, std::string_view version) {
     }
     file.DeleteAllSections();
     file.WriteString(kVersionSection, kVersionKey, version);
-    for (const auto& [section, keys] : sets) {
-        for (const auto& [name, value] : keys) file.WriteString(section, name, value);
-    }
+    for (const auto& [section, keys] : sets) WriteKeys(file, section, keys);
 }
 
 }  // namespace jogeon

@@ -11,7 +11,6 @@
 #include "screen/shell/condition_screen_view.h"
 #include "screen/shell/host_color_numbers.h"
 #include "screen/shell/screen_style_qt.h"
-#include "screen/transactions/list_request.h"
 
 namespace jogeon {
 namespace {
@@ -117,11 +116,11 @@ void ConditionScreen::PlacePanel() {
 }
 
 void ConditionScreen::ReadFileVersion() {
-    fileVersion_ = ReadVersion(SavedConditionPath(GetHomePath(*services_.links), userId_));
+    saved_.Open(SavedConditionPath(GetHomePath(*services_.links), userId_), userId_);
 }
 
 void ConditionScreen::RequestConditionList() {
-    channel_.Send(ComposeListRequest(ListStep::First, userId_, "00", fileVersion_), kFirstListKey);
+    saved_.RequestList();
 }
 
 void ConditionScreen::ReadConditionSettings() {

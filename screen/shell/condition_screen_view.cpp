@@ -13,12 +13,12 @@
 #include "screen/settings/settings_block.h"
 #include "screen/shell/control_icons_qt.h"
 #include "screen/shell/host_color_numbers.h"
+#include "screen/shell/saved_wiring_qt.h"
 #include "screen/shell/screen_keys_qt.h"
 #include "screen/shell/screen_splitter_widget.h"
 #include "screen/shell/screen_style_qt.h"
 #include "screen/target/target_dialog.h"
 #include "screen/text/cp949.h"
-#include "screen/transactions/list_request.h"
 
 namespace jogeon {
 namespace {
@@ -58,7 +58,8 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
           expressionEdit_, *services_.questions,
           [this](const std::string& text) { return CheckExpression(text); },
           [this] { OnExpressionChanged(); }),
-      saved_(*this, editor_, *services_.questions, *services_.links, settings_),
+      savedDialogs_(*this, *services_.questions),
+      saved_({*this, savedDialogs_, editor_, channel_, *services_.questions, *services_.links, settings_}),
       resultControls_(
           {*this, resultGrid_, resultTabs_, form_.ComboAt(control::kScope),
            form_.ButtonAt(control::kNextPage), form_.ButtonAt(control::kCodeList),
@@ -80,6 +81,7 @@ void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
     splitterWindow_ = host::HandleOf(&splitter);
     treeView_ = &tree;
     WireScreenKeys(splitter, form_);
+    saved_.LinkTree(tree);
 }
 
 // --- controls and commands
@@ -107,7 +109,7 @@ void ConditionScreen::FillScopes() {
 }
 
 void ConditionScreen::WireCommands() {
-    form_.OnClick(control::kNewCondition, [this] { saved_.NewCondition(); });
+    WireSavedCommands(form_, saved_);
     form_.OnClick(control::kChangeTarget, [this] { ChangeTarget(); });
     form_.OnClick(control::kSearch, [this] { search_.Start(); });
     form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
@@ -137,7 +139,7 @@ void ConditionScreen::WireCommands() {
 void ConditionScreen::WireReplies() {
     channel_.SetHandler('T', [this](std::string_view reply) { results_.OnSearchReply(reply, false); });
     channel_.SetHandler('N', [this](std::string_view reply) { results_.OnSearchReply(reply, true); });
-    channel_.SetHandler('V', [this](std::string_view reply) { OnListReply(reply); });
+    saved_.WireReplies();
 }
 
 void ConditionScreen::OnPickIndex(const CIndexInfo& info, const FieldArray* fields) {
@@ -198,21 +200,13 @@ void ConditionScreen::ClearResultsCommand() {
     editor_.ResetSequence();
 }
 
-// The list of the user's sets: he has the latest one, or only its version is new.
-void ConditionScreen::OnListReply(std::string_view reply) {
-    const ListReply list = ReadListReply(reply);
-    if (list.answer == ListAnswer::VersionOnly) fileVersion_ = list.version;
-    if (list.answer != ListAnswer::Equal && list.answer != ListAnswer::VersionOnly) return;
-    treeView_->ShowSavedConditions();
-}
-
 SearchInputs ConditionScreen::GatherSearchInputs() {
     SearchInputs inputs;
     inputs.window = handle_;
     inputs.scope = static_cast<SearchScope>(std::max(0, form_.ComboAt(control::kScope).currentIndex()));
     inputs.header = {userId_, saved_.CurrentSaved(),
-                     ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()),
-                     form_.ButtonAt(control::kBuy).isChecked(), saved_.Target()};
+                     ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()), BuySelected(),
+                     saved_.Target()};
     inputs.conditions = editor_.Conditions();
     inputs.expressionText = expressionEdit_.ExpressionText();
     inputs.checkExpression = [this](const std::string& text) { return CheckExpression(text); };
@@ -262,7 +256,7 @@ bool ConditionScreen::event(QEvent* event) {
             break;
         case host::kServerReply: {
             const auto* block = reinterpret_cast<const std::string*>(message->lParam);
-            channel_.OnReply(message->wParam != 0, block ? std::string_view(*block) : std::string_view());
+            channel_.OnReply(message->wParam, block ? std::string_view(*block) : std::string_view());
             break;
         }
         case host::kHostChanged:
@@ -331,6 +325,10 @@ void ConditionScreen::ShowName(const std::string& name) {
     form_.LabelAt(control::kNameLabel).setText(Shown(name));
 }
 
+bool ConditionScreen::BuySelected() const {
+    return form_.ButtonAt(control::kBuy).isChecked();
+}
+
 void ConditionScreen::SelectBuy(bool buy) {
     form_.ButtonAt(buy ? control::kBuy : control::kSell).setChecked(true);
 }
@@ -345,10 +343,6 @@ void ConditionScreen::EnableSavedCommands(bool enabled) {
     for (const int id : {control::kDeleteSaved, control::kRenameSaved, control::kSaveAs}) {
         form_.EnableCommand(id, enabled);
     }
-}
-
-void ConditionScreen::ClearTreeSelection() {
-    treeView_->ClearSelection();
 }
 
 }  // namespace jogeon

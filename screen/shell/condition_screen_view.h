@@ -25,6 +25,7 @@
 #include "screen/results/result_tabs_widget.h"
 #include "screen/results/search_commands.h"
 #include "screen/saved/saved_conditions.h"
+#include "screen/saved/saved_dialogs_qt.h"
 #include "screen/settings/screen_settings.h"
 #include "screen/shell/screen_form_widget.h"
 #include "screen/transactions/request_channel.h"
@@ -51,7 +52,7 @@ public:
     void OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) override;
 
     // Whether the expression is well formed; if it isn't, the user has been shown where.
-    bool CheckExpression(const std::string& text);
+    bool CheckExpression(const std::string& text) override;
 
     // What the module's exported functions ask for.
     void SaveLeftPaneWidth(const std::string& key);
@@ -102,17 +103,17 @@ private:
     void ToggleExpressionHeight();
     void ChangeTarget();
     void ClearResultsCommand();
-    void OnListReply(std::string_view reply);
     void ChangeHost(host::WindowHandle mainWindow);
     void RefreshCursor();
     SearchInputs GatherSearchInputs();
 
     // SavedConditionView
     void ShowName(const std::string& name) override;
+    bool BuySelected() const override;
     void SelectBuy(bool buy) override;
     void ShowTarget(const SearchTarget& target) override;
+    std::string ExpressionText() const override { return expressionEdit_.ExpressionText(); }
     void EnableSavedCommands(bool enabled) override;
-    void ClearTreeSelection() override;
     void ClearResults() override { ClearResultsCommand(); }
 
     const host::Services services_;
@@ -135,7 +136,6 @@ private:
 
     ScreenSettings settings_;
     std::string userId_;
-    std::string fileVersion_;
     bool lastDataApplied_ = false;  // the left pane's width has been restored, or must not be
     bool leftPaneClosed_ = false;
 
@@ -143,6 +143,7 @@ private:
     ConditionsPane conditionsPane_;
     ConditionEditor editor_;
     ExpressionCommands expressionCommands_;
+    SavedDialogs savedDialogs_;
     SavedConditions saved_;
     ColumnTables columns_;
     ResultControlsView resultControls_;

@@ -83,6 +83,8 @@ inline constexpr int kResultGrid = 21104;
 inline constexpr int kResultTabs = 21105;
 inline constexpr int kExpandMode = 21133;
 inline constexpr int kCodeList = 21164;
+inline constexpr int kReorderSaved = 22017;
+inline constexpr int kImportSaved = 22018;
 inline constexpr int kBarsAgoEdit = 17042;
 inline constexpr int kConditionGrid = 16129;
 }  // namespace control

@@ -123,7 +123,7 @@ std::optional<ConditionHeader> DecodeConditionHeader(std::string_view bytes) {
 }
 
 std::string SearchHandleOf(const CSavedIndexInfo* currentSaved) {
-    return currentSaved ? currentSaved->m_strKey : kNoNumber;
+    return currentSaved && !currentSaved->m_strKey.empty() ? currentSaved->m_strKey : kNoNumber;
 }
 
 std::string BuildConditionHeader(const HeaderSource& source, std::string_view expression, int count,

@@ -1,4 +1,5 @@
-// The version check of the user's condition list, "V": its request and its reply.
+// The version check of the user's condition list, "V": its request and its reply, which brings the sets where
+// the user has an older state.
 #pragma once
 
 #include <cstdint>
@@ -37,13 +38,22 @@ enum class ListAnswer : char { Data = 'D', Equal = 'E', VersionOnly = 'Z' };
 
 inline constexpr std::uint8_t kFirstListKey = 0xa1;
 
+// The key of a request for what follows `blocks` records.
+constexpr std::uint8_t FollowingListKey(int blocks) {
+    return static_cast<std::uint8_t>(0x20 + blocks);
+}
+
 // The 19 bytes of the request.
 std::string ComposeListRequest(ListStep step, std::string_view userId, std::string_view number,
                                std::string_view version);
 
 struct ListReply {
-    ListAnswer answer{};  // none of the three where the reply is too short or says something else
-    std::string version;
+    ListAnswer answer{};       // none of the three where the reply is too short for it or says something else
+    std::string version;       // trimmed on the right
+    bool more = false;         // further packets follow
+    std::string number;        // where the next packet goes on
+    int count = -1;            // records that this packet says to hold; below 0 where it says no number
+    std::string_view records;  // of the data that was read
 };
 
 ListReply ReadListReply(std::string_view data);

@@ -98,9 +98,10 @@ void RequestChannel::SetHandler(char letter, Handler handler) {
     handlers_.at(static_cast<std::size_t>(letter - 'A')) = std::move(handler);
 }
 
-void RequestChannel::OnReply(bool wParamNonZero, std::string_view replyBlock) {
+void RequestChannel::OnReply(std::uintptr_t wParam, std::string_view replyBlock) {
     communication_.CommRemoveBrod(window_);
-    if (replyBlock.empty() || !wParamNonZero) return;
+    if (replyBlock.empty() || wParam == 0) return;
+    replyKey_ = static_cast<std::uint8_t>(wParam);
     // A copy, because a handler may run a modal box, and the block is the host's.
     const std::string data(ReplyData(replyBlock).value_or(std::string_view()));
     Receive(data);
@@ -112,6 +113,7 @@ void RequestChannel::OnTimer(int id) {
     requestTimerId_ = 0;
     busy_ = false;
     refreshCursor_();
+    if (expired_) expired_(static_cast<Guard>(id));
     questions_.Ask({TimeoutText(id), "조건검색"_cp949, host::Icon::Information, host::Buttons::Ok});
 }
 

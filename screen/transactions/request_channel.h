@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <string_view>
+#include <utility>
 
 #include "screen/host/services.h"
 
@@ -53,9 +54,16 @@ public:
     // Who gets the replies whose data begins with `letter`, one of A C D E N T V.
     void SetHandler(char letter, Handler handler);
 
-    // A reply from the transport. `replyBlock` is empty where the message carried none. A message whose first
-    // parameter was 0 is swallowed: the guard runs on.
-    void OnReply(bool wParamNonZero, std::string_view replyBlock);
+    // Who is told that a guard has run out, before the user is.
+    void SetExpired(std::function<void(Guard)> expired) { expired_ = std::move(expired); }
+
+    // A reply from the transport. `wParam` is the message's first parameter, whose low byte is the key of the
+    // request that is answered; at 0 the message is swallowed and the guard runs on. `replyBlock` is empty
+    // where the message carried none.
+    void OnReply(std::uintptr_t wParam, std::string_view replyBlock);
+
+    // The key of the request that was answered last; of use to a handler before it shows a box.
+    std::uint8_t ReplyKey() const { return replyKey_; }
 
     // The guard's tick. A tick of a timer that has lost the slot is ignored.
     void OnTimer(int id) override;
@@ -73,6 +81,8 @@ private:
     std::uint8_t majorId_ = 0;
     int requestTimerId_ = 0;
     bool busy_ = false;
+    std::uint8_t replyKey_ = 0;
+    std::function<void(Guard)> expired_;
     std::array<Handler, 'V' - 'A' + 1> handlers_;
 };
 

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTreeWidget>
 
 #include <gmock/gmock.h>
@@ -111,6 +112,56 @@ TEST(ConditionScreenTest, UsersSetsComeWhenTheServerSaysThatTheyAreTheLatest) {
     EXPECT_EQ("내조건", TextOf(host, 21019));
     EXPECT_EQ("<업종대상(전체)><관리제외><3월결산>", TextOf(host, 21027));
     EXPECT_TRUE(host.Control<QAbstractButton>(21029).isChecked());
+}
+
+// The buttons from the click to the tree, the file and the request that follows.
+TEST(ConditionScreenTest, SavedCommandsReachServerFileAndTree) {
+    TestHost host;
+    host.Open();
+    host.Reply("VE");
+    OpenFirmSet(host);
+    const auto enabled = [&](int id) { return host.Control<QAbstractButton>(id).isEnabled(); };
+    EXPECT_TRUE(enabled(21024) && enabled(22017) && enabled(22018));
+    EXPECT_FALSE(enabled(21022) || enabled(21023) || enabled(21025));
+
+    std::string name = "내조건";
+    host.questions.onRun = [&](const std::string& dialog, void* object) {
+        auto* shown = static_cast<QDialog*>(object);
+        if (dialog == "ReorderDialog") shown->findChild<QAbstractButton*>("22026")->click();
+        if (dialog == "NameDialog") shown->findChild<QLineEdit*>("21066")->setText(name.c_str());
+        shown->accept();
+        return shown->result() == QDialog::Accepted;
+    };
+    Press(host, 21024);
+    EXPECT_EQ('A', host.communication.LastPayload()[0]);
+    host.Reply("A1         00000.002");
+    EXPECT_EQ("사용자정의 조건이 조건번호 [00]에 저장되었습니다", ToUtf8(host.questions.boxes.back().text));
+    const QTreeWidgetItem* own = host.Control<QTreeWidget>(21001).topLevelItem(0);
+    ASSERT_EQ(1, own->childCount());
+    EXPECT_EQ("내조건", own->child(0)->text(0));
+    EXPECT_TRUE(enabled(21022) && enabled(21023) && enabled(21025));
+
+    name = "둘째";
+    Press(host, 21025);
+    host.Reply("A1         01000.003");
+    Press(host, 22017);
+    EXPECT_EQ("C000.003trader  00020100", host.communication.LastPayload());
+    host.Reply("C1        000.004");
+    EXPECT_EQ("둘째", own->child(0)->text(0));
+    EXPECT_EQ("둘째", TextOf(host, 21019));
+
+    host.questions.answers = {host::Answer::Yes, host::Answer::Yes};
+    name = "셋째";
+    Press(host, 21023);
+    EXPECT_EQ("E000.004trader  00", host.communication.LastPayload().substr(0, 18));
+    host.Reply("E1         00000.005");
+    EXPECT_EQ("셋째", own->child(0)->text(0));
+    Press(host, 21022);
+    host.Reply("D1           000.006");
+    ASSERT_EQ(1, own->childCount());
+    EXPECT_EQ("내조건", own->child(0)->text(0));
+    EXPECT_FALSE(enabled(21022));
+    EXPECT_EQ(1, host.Control<CFBGrid>(16129).GetRowCnt());
 }
 
 TEST(ConditionScreenTest, SearchGoesOutOnceAndItsRowsFillTheGrid) {
