@@ -1,5 +1,6 @@
 #include "screen/saved/saved_mirror.h"
 
+#include <system_error>
 #include <utility>
 
 #include "screen/text/bytes.h"
@@ -29,6 +30,7 @@ bool SavedMirror::Remove(std::string_view number, std::string_view version) {
 }
 
 bool SavedMirror::Rewrite(const SavedSets& sets, std::string_view version) {
+    KeepCopy();
     if (!RewriteConditions(sets, file_, version)) return false;
     SetVersion(version);
     return true;
@@ -38,6 +40,15 @@ bool SavedMirror::Renumber(const std::vector<std::string>& numbers, std::string_
     if (!RenumberConditions(numbers, file_, version)) return false;
     SetVersion(version);
     return true;
+}
+
+// A server with a new or a lost store sends fewer sets than the file has: they are not gone for good.
+void SavedMirror::KeepCopy() const {
+    if (Sets().empty()) return;
+    std::filesystem::path copy = file_;
+    copy += ".bak";
+    std::error_code failed;
+    std::filesystem::copy_file(file_, copy, std::filesystem::copy_options::overwrite_existing, failed);
 }
 
 // A file that has fallen behind, because an earlier write failed or someone else changed it, stays behind:

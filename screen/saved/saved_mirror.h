@@ -33,12 +33,14 @@ public:
     bool Put(const CSavedIndexInfo& set, bool keepSection, std::string_view version);
     bool Remove(std::string_view number, std::string_view version);
 
-    // After all have changed: makes the file anew, or renumbers its sets in the order of `numbers`. False if
-    // the file can't be written; file and version are the old ones then.
+    // After all have changed: makes the file anew, the old one with its sets staying beside it as ".bak"; or
+    // renumbers its sets in the order of `numbers`. False if the file can't be written; file and version are
+    // the old ones then.
     bool Rewrite(const SavedSets& sets, std::string_view version);
     bool Renumber(const std::vector<std::string>& numbers, std::string_view version);
 
 private:
+    void KeepCopy() const;
     std::string VersionToStamp(std::string_view version) const;
 
     std::filesystem::path file_;

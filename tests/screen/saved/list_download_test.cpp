@@ -38,6 +38,7 @@ TEST_F(ListDownloadTest, OnePacketRebuildsFileAndTreeAndSkipsBadRecords) {
     EXPECT_EQ(screen_.tree.Shown(), "00 하나, 02 둘");
     EXPECT_EQ(screen_.OnDisk().substr(0, 49),
               "[Version]\r\nver=000.009\r\n\r\n[00]\r\nName=하나\r\nTypePo"_cp949);
+    EXPECT_NE(ReadBytes(screen_.file.string() + ".bak").find("옛것"_cp949), std::string::npos);
     EXPECT_NE(screen_.OnDisk().find("00=0101010008;A;1;0;40^2|60^5|30^1;\r\n"), std::string::npos);
     screen_.saved.RequestList();
     EXPECT_EQ(screen_.LastPayload(), "V0trader  00000.009");
