@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <iterator>
 
+#include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/palette/colors.h"
 #include "screen/text/cp949.h"
 

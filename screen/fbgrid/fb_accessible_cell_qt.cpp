@@ -1,6 +1,7 @@
 #include <QWindow>
 
 #include "screen/fbgrid/fb_accessible_table_qt.h"
+#include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/fbgrid/fb_grid_widget.h"
 #include "screen/text/cp949_qt.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/fbgrid/fb_grid_widget.h"
 #include "screen/text/cp949_qt.h"
 

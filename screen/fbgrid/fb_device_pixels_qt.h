@@ -16,9 +16,6 @@ public:
     // `dc` outlives this, and is neither turned nor scaled in the meantime.
     explicit FBDevicePixels(QPainter& dc);
 
-    // The thickness of a line that is one logical pixel wide: whole pixels of the device, at least one.
-    qreal Line() const { return line_; }
-
     // The nearest rectangle, or point, with its edges between pixels of the device.
     QRectF Whole(const QRectF& rect) const;
     QPointF Whole(const QPointF& point) const;
@@ -37,7 +34,7 @@ private:
     QPainter& dc_;
     const QTransform toDevice_;
     const QTransform fromDevice_;
-    const qreal line_;
+    const qreal line_;  // thickness of a thin line: whole pixels of the device, at least one
 };
 
 }  // namespace jogeon

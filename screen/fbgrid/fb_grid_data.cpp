@@ -197,10 +197,3 @@ const CStringArray* FBGridData::DropDownItems(int index) const {
     const bool exists = index >= 0 && static_cast<std::size_t>(index) < lists_.size();
     return exists ? lists_[static_cast<std::size_t>(index)].get() : nullptr;
 }
-
-void FBGridData::ClearGrid() {
-    ResizeRows(0);
-    columns_.Resize(0, 0);
-    fixedRows_ = 0;
-    fixedColumns_ = 0;
-}

@@ -112,9 +112,6 @@ protected:
     virtual void OnSizesChanged(bool /*redraw*/) {}  // rows or columns came, went or were resized
     virtual void OnCellsChanged() {}                 // cells anywhere changed and are to be repainted
 
-    // Frees all cells and rows; all counts are 0.
-    void ClearGrid();
-
 private:
     bool ResizeRows(int n);
     int SetSize(FBAxis& axis, int index, int size);

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "screen/fbgrid/fb_grid_painter_qt.h"
-#include "screen/fbgrid/fb_grid_widget.h"
+#include "screen/fbgrid/fb_grid_parts_widget.h"
 #include "screen/text/cp949_qt.h"
 
 using namespace jogeon;
@@ -26,7 +26,7 @@ QPixmap CFBGrid::CreateDragImage(int row) const {
     const QSize size(std::min(GetVirtualWidth(), viewport()->width()), GetRowHeight(row));
     QPixmap picture = EmptyPicture(size, devicePixelRatioF());
     if (picture.isNull()) return picture;
-    const FBGridLook& look = LookNow({});
+    const FBGridLook& look = parts_->LookNow({});
     const FBGridGeometry geometry = Geometry();
     const FBGridPainter painter(*this, geometry, {size.width(), size.height()}, look);
     QPainter dc(&picture);

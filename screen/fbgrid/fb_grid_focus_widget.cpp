@@ -1,11 +1,9 @@
-// The part of CFBGrid that moves the focus, of the cells and of the keyboard.
-#include <QFocusEvent>
+#include "screen/fbgrid/fb_grid_focus_widget.h"
 
 #include "screen/fbgrid/fb_grid_accessible_qt.h"
-#include "screen/fbgrid/fb_grid_widget.h"
+#include "screen/fbgrid/fb_grid_parts_widget.h"
 
-using namespace jogeon;
-
+namespace jogeon {
 namespace {
 
 constexpr FBFocusColours kWithFocus{fbcolour::kHighlight, 0xFFFFFF, 0xFFFFFF};
@@ -13,86 +11,76 @@ constexpr FBFocusColours kWithoutFocus{fbcolour::kInactiveBorder, 0, 0xFFFFFF};
 
 }  // namespace
 
-void CFBGrid::SetCellFocus(int row, int col, bool redraw, bool noToggle) {
-    FocusCell({row, col}, redraw, noToggle);
-}
-
-bool CFBGrid::FocusCell(CCellID cell, bool redraw, bool noToggle) {
-    if (!Exists(cell)) return true;
-    const bool again = GetFocusedCellID() == cell;
-    StoreFocus(cell, redraw);
-    const CCell& focused = GetCell(cell.row, cell.col);
+bool FBGridFocus::Give(CCellID cell, bool redraw, bool noToggle) {
+    if (!parts_.Exists(cell)) return true;
+    const bool again = grid_.GetFocusedCellID() == cell;
+    Store(cell, redraw);
+    const CCell& focused = grid_.GetCell(cell.row, cell.col);
     if (focused.state & CCell::kEdit) {
-        if (again) OpenEdit(cell);
+        if (again) parts_.inPlace.OpenEdit(cell);
     } else if (focused.state & (CCell::kList | CCell::kFreeList)) {
-        if (focused.listIndex != -1) OpenList(cell);
+        if (focused.listIndex != -1) parts_.inPlace.OpenList(cell);
     } else if ((focused.state & CCell::kCheck) && !noToggle) {
-        return ToggleCheck(cell);
+        return Toggle(cell);
     }
     return true;
 }
 
 // The marked rows are the only ones that look different afterwards.
-void CFBGrid::StoreFocus(CCellID cell, bool redraw) {
-    const CCellID old = GetFocusedCellID();
-    SetFocusedCellID(cell);
+void FBGridFocus::Store(CCellID cell, bool redraw) {
+    const CCellID old = grid_.GetFocusedCellID();
+    grid_.SetFocusedCellID(cell);
     if (redraw) {
-        InvalidateRow(old.row);
-        InvalidateRow(cell.row);
+        grid_.InvalidateRow(old.row);
+        grid_.InvalidateRow(cell.row);
     }
-    AnnounceFocus(*this, cell);
+    AnnounceFocus(grid_, cell);
 }
 
-bool CFBGrid::ToggleCheck(CCellID cell) {
-    std::uint32_t& check = GetCell(cell.row, cell.col).check;
+bool FBGridFocus::Toggle(CCellID cell) {
+    std::uint32_t& check = grid_.GetCell(cell.row, cell.col).check;
     if (check == CCell::kDisabled) return true;
     if (check == CCell::kOn || check == CCell::kOff) check = check == CCell::kOn ? CCell::kOff : CCell::kOn;
-    AnnounceCell(*this, cell);
-    return Notify(FBGridNotify::kCheckToggled);
+    AnnounceCell(grid_, cell);
+    return parts_.Notify(FBGridNotify::kCheckToggled);
 }
 
 // The whole row is marked, so the whole row is repainted.
-bool CFBGrid::KillCellFocus(bool redraw) {
-    const CCellID focused = GetFocusedCellID();
-    if (!Geometry().GetCellRect(focused.row, focused.col)) return false;
-    SetFocusedCellID({});
-    if (redraw) InvalidateRow(focused.row);
+bool FBGridFocus::Kill(bool redraw) {
+    const CCellID focused = grid_.GetFocusedCellID();
+    if (!grid_.Geometry().GetCellRect(focused.row, focused.col)) return false;
+    grid_.SetFocusedCellID({});
+    if (redraw) grid_.InvalidateRow(focused.row);
     return true;
 }
 
 // Scrolls first, so that a list opens where its cell will be.
-void CFBGrid::SetFocusRow(int row, int col) {
-    if (!IsValid(row, col)) return;
-    ResetScrollBars();
-    const std::int64_t above = Rows().Offset(row) - GetFixedRowHeight();
-    const bool onFirstPage = above < viewport()->height() - GetFixedRowHeight();
-    SetScrollPos32(Qt::Vertical, onFirstPage ? 0 : static_cast<int>(above), false);
-    viewport()->update();
-    FocusCell({row, col}, false, true);
+void FBGridFocus::GiveRow(CCellID cell) {
+    if (!parts_.Exists(cell)) return;
+    parts_.sizes.FitBars();
+    const std::int64_t above = grid_.Rows().Offset(cell.row) - grid_.GetFixedRowHeight();
+    const bool onFirstPage = above < grid_.viewport()->height() - grid_.GetFixedRowHeight();
+    parts_.scroll.SetPosition(Qt::Vertical, onFirstPage ? 0 : static_cast<int>(above), false);
+    grid_.viewport()->update();
+    Give(cell, false, true);
 }
 
-bool CFBGrid::TakeFocus() {
-    const QPointer<CFBGrid> self(this);
-    setFocus(Qt::MouseFocusReason);
-    return !self.isNull();
-}
-
-void CFBGrid::focusInEvent(QFocusEvent* event) {
-    QAbstractScrollArea::focusInEvent(event);
-    focusColours_ = kWithFocus;
-    const CCellID focused = GetFocusedCellID();
-    InvalidateCell(focused.row, focused.col);
+void FBGridFocus::KeyboardCame(const QFocusEvent& event) {
+    colours_ = kWithFocus;
+    const CCellID focused = grid_.GetFocusedCellID();
+    grid_.InvalidateCell(focused.row, focused.col);
     // A list stays open while the focus is in a window that doesn't close it; this one does.
-    if (event->reason() != Qt::PopupFocusReason) EndInPlace(true);
+    if (event.reason() != Qt::PopupFocusReason) parts_.inPlace.End(true);
 }
 
-void CFBGrid::focusOutEvent(QFocusEvent* event) {
-    QAbstractScrollArea::focusOutEvent(event);
-    if (event->reason() == Qt::PopupFocusReason) return;  // a menu of its own is no other window
-    focusColours_ = kWithoutFocus;
+void FBGridFocus::KeyboardWent(const QFocusEvent& event) {
+    if (event.reason() == Qt::PopupFocusReason) return;  // a menu of its own is no other window
+    colours_ = kWithoutFocus;
     // A press that has led to a box or to another program will see no release.
-    if (event->reason() == Qt::ActiveWindowFocusReason) CancelPointerGesture();
-    if (std::holds_alternative<RowMove>(gesture_)) return EndMoveRow();
-    const CCellID focused = GetFocusedCellID();
-    InvalidateCell(focused.row, focused.col);
+    if (event.reason() == Qt::ActiveWindowFocusReason) parts_.mouse.Cancel();
+    if (std::holds_alternative<RowMove>(parts_.gesture)) return parts_.keys.EndMove();
+    const CCellID focused = grid_.GetFocusedCellID();
+    grid_.InvalidateCell(focused.row, focused.col);
 }
+
+}  // namespace jogeon

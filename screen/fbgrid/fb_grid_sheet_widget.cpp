@@ -1,5 +1,6 @@
 // The part of CFBGrid that saves worksheets and tells the user where it can't.
 #include <QGuiApplication>
+#include <QPointer>
 #include <optional>
 
 #include "screen/fbgrid/fb_grid_sheet.h"

@@ -1,14 +1,7 @@
 #include "screen/fbgrid/fb_grid_widget.h"
 
-#include <QCoreApplication>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QScrollBar>
-#include <utility>
-
-#include "screen/fbgrid/fb_cell_painter_qt.h"
 #include "screen/fbgrid/fb_grid_accessible_qt.h"
-#include "screen/fbgrid/fb_grid_painter_qt.h"
+#include "screen/fbgrid/fb_grid_parts_widget.h"
 #include "screen/fbgrid/fb_window_class_qt.h"
 
 using namespace jogeon;
@@ -29,40 +22,35 @@ QEvent::Type FBGridNotify::EventType() {
     return static_cast<QEvent::Type>(type);
 }
 
-CFBGrid::CFBGrid(QWidget* parent) : QAbstractScrollArea(parent), look_(std::make_unique<FBGridLook>()) {
+CFBGrid::CFBGrid(QWidget* parent)
+    : QAbstractScrollArea(parent), parts_(std::make_unique<FBGridParts>(*this)) {
     InstallGridAccessibility();
     setProperty(kWindowClassProperty, kGridWindowClass);
     setFrameShape(QFrame::NoFrame);
     // A press takes the focus by itself, and only the left one does.
     setFocusPolicy(Qt::TabFocus);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);  // every pixel is painted, so nothing is erased before
-    ConnectScrollBars();
 }
 
 CFBGrid::~CFBGrid() {
-    if (const auto control = std::exchange(inPlace_, {}).control) Retire(control);
+    parts_->inPlace.Abandon();
 }
 
 bool CFBGrid::Create(const QRect& rect, QWidget* parent, int id) {
     setParent(parent);
-    id_ = id;
+    parts_->controlId = id;
     setObjectName(QString::number(id));
     if (parent) setFont(parent->font());
     setGeometry(rect);
     return true;
 }
 
-bool CFBGrid::Notify(int code, int row, int col) {
-    const QPointer<CFBGrid> self(this);
-    if (QWidget* parent = parentWidget()) {
-        FBGridNotify notify(*this, code, row, col);
-        QCoreApplication::sendEvent(parent, &notify);
-    }
-    return !self.isNull();
+int CFBGrid::ControlId() const {
+    return parts_->controlId;
 }
 
 void CFBGrid::SetImageList(const std::vector<QPixmap>* images) {
-    look_->images = images;
+    parts_->look.images = images;
     viewport()->update();
 }
 
@@ -71,26 +59,17 @@ void CFBGrid::SetFont(const QFont& font) {
 }
 
 void CFBGrid::SetFixedCellColor(FBColour colour) {
-    look_->fixedCellColour = colour;
+    parts_->look.fixedCellColour = colour;
     viewport()->update();
 }
 
 FBColour CFBGrid::GetFixedCellColor() const {
-    return look_->fixedCellColour;
+    return parts_->look.fixedCellColour;
 }
 
 void CFBGrid::SetGridLine(FBColour colour) {
-    look_->gridLineColour = colour;
+    parts_->look.gridLineColour = colour;
     viewport()->update();
-}
-
-FBGridGeometry CFBGrid::GeometryOf(QSize client) const {
-    return FBGridGeometry(*this, {client.width(), client.height()}, horizontalScrollBar()->value(),
-                          verticalScrollBar()->value());
-}
-
-FBGridGeometry CFBGrid::Geometry() const {
-    return GeometryOf(viewport()->size());
 }
 
 bool CFBGrid::InvalidateCell(int row, int col) {
@@ -112,19 +91,6 @@ void CFBGrid::UpdateGrid(bool redraw) {
     if (redraw) viewport()->update();
 }
 
-// The look is kept, with the texts that it has laid out; what Qt decides about it is asked for each picture.
-const FBGridLook& CFBGrid::LookNow(CCellID pressedButton) const {
-    look_->font = font();
-    look_->palette = palette();
-    look_->pressedButton = pressedButton;
-    return *look_;
-}
-
-void CFBGrid::paintEvent(QPaintEvent* event) {
-    const auto* press = std::get_if<ButtonPress>(&gesture_);
-    const FBGridLook& look = LookNow(press && press->inside ? press->cell : CCellID());
-    const FBGridGeometry geometry = Geometry();
-    QPainter dc(viewport());
-    FBGridPainter(*this, geometry, {viewport()->width(), viewport()->height()}, look)
-        .OnDraw(dc, event->rect());
+FBGridGeometry CFBGrid::Geometry() const {
+    return parts_->scroll.Geometry();
 }

@@ -14,22 +14,17 @@
 #include <QAbstractScrollArea>
 #include <QEvent>
 #include <QPixmap>
-#include <QPointer>
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <vector>
 
-#include "screen/fbgrid/fb_gesture.h"
 #include "screen/fbgrid/fb_grid_data.h"
-#include "screen/fbgrid/fb_grid_geometry.h"
 
 class CFBGrid;
-class QComboBox;
 
 namespace jogeon {
-class FBInPlaceList;
-struct FBGridLook;
+class FBGridGeometry;
+struct FBGridParts;
 }  // namespace jogeon
 
 // What the grid tells its parent: sent, not posted, to parentWidget()'s event(). Fields that a code doesn't
@@ -79,7 +74,7 @@ public:
     // Makes it a child of `parent` at `rect`, with the parent's font and the control id `id`. It appears with
     // its parent; where that is on the screen already, show() is up to the caller. True.
     bool Create(const QRect& rect, QWidget* parent, int id);
-    int ControlId() const { return id_; }
+    int ControlId() const;
 
     // --- looks
 
@@ -107,7 +102,7 @@ public:
     void EndMoveRow();
 
     // The column whose cells start a drag of their row, -1 for none.
-    void SetDragAndDropColumn(int col) { dragColumn_ = col; }
+    void SetDragAndDropColumn(int col);
 
     // --- what a click does where there is no pointer: assistive tools
 
@@ -132,7 +127,8 @@ public:
     void SetScrollPos32(Qt::Orientation bar, int pos, bool redraw);
     int GetScrollPos32(Qt::Orientation bar, bool track = false) const;
 
-    // Where the cells stand on the window just now. It is good until anything is changed.
+    // Where the cells stand on the window just now (screen/fbgrid/fb_grid_geometry.h). It is good until
+    // anything is changed.
     jogeon::FBGridGeometry Geometry() const;
 
     // --- pictures of a row or of a text, for a host that drags one; and a drop from another window, which
@@ -151,13 +147,12 @@ public:
     void SaveToExcelPartially(const std::string& title, int firstCol, int lastCol);
 
 protected:
-    const FBFocusColours& FocusColours() const { return focusColours_; }
+    const FBFocusColours& FocusColours() const;
 
+    // Whoever overrides one of these hands on what he has no use for: the grid lives by them.
     void OnSizesChanged(bool redraw) override;
     void OnCellsChanged() override;
-
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* object, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -172,68 +167,5 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    // The control that is open over a cell.
-    struct InPlace {
-        std::shared_ptr<QWidget> control;  // null if none is open; deleted later when nobody holds it
-        CCellID cell;
-        CCell known;                        // the cell as it was last seen here, to tell it from another
-        std::function<void(CCell&)> store;  // writes what the control ends with
-    };
-
-    // Those that return a bool tell the parent, or may let others run: false if that has deleted the grid.
-    bool Notify(int code, int row = -1, int col = -1);
-    bool TakeFocus();
-    bool FocusCell(CCellID cell, bool redraw, bool noToggle);
-    bool ToggleCheck(CCellID cell);
-    void StoreFocus(CCellID cell, bool redraw);
-    bool Exists(CCellID cell) const { return IsValid(cell.row, cell.col); }
-    bool IsButton(CCellID cell) const;
-    const jogeon::FBGridLook& LookNow(CCellID pressedButton) const;
-
-    void PressLeft(QPoint point);
-    bool PressBody(CCellID cell);
-    void DropRow(QPoint point, QMouseEvent& event);
-    bool IsOn(CCellID cell, QPoint point) const;
-    void CancelPointerGesture();
-
-    void Key(int key);
-    void EnterKey();
-    void MoveKey(int key);
-    void PageKey(CCellID at, jogeon::ScrollStep step);
-    void VerticalKey(CCellID at, int direction);
-    void HorizontalKey(CCellID at, int direction);
-    int NextShownColumn(int col, int direction) const;
-    void DropMove();
-
-    void ConnectScrollBars();
-    void OnScrollAction(Qt::Orientation bar, int action);
-    int AfterStep(Qt::Orientation bar, jogeon::ScrollStep step) const;
-    void Scroll(Qt::Orientation bar, jogeon::ScrollStep step);
-    void FitScrollBar(Qt::Orientation bar, const jogeon::ScrollRange& range);
-    QScrollBar& Bar(Qt::Orientation bar) const;
-    jogeon::FBGridGeometry GeometryOf(QSize client) const;
-
-    void OpenEdit(CCellID cell);
-    void OpenList(CCellID cell);
-    void Open(QWidget* control, CCellID cell, std::function<void(CCell&)> store);
-    void Retire(const std::shared_ptr<QWidget>& control);
-    CCell* InPlaceCell();
-    void ConnectList(jogeon::FBInPlaceList& list);
-    void OnListSelection(const QComboBox& list, int index);
-    void WriteInPlace(const std::function<void(CCell&)>& write);
-    bool EndInPlace(bool store);
-    void PlaceInPlace();
-    void DropInPlaceOfOtherCell();
-
-    int id_ = 0;
-    int dragColumn_ = -1;
-    int wheelDelta_ = 0;  // of turns that have not made a whole notch yet
-    int rowsBefore_ = 0;  // the counts when they were last looked at
-    int columnsBefore_ = 0;
-    bool repaintOnScroll_ = true;
-    bool fittingBars_ = false;
-    FBFocusColours focusColours_;
-    jogeon::FBGesture gesture_;
-    InPlace inPlace_;
-    std::unique_ptr<jogeon::FBGridLook> look_;
+    std::unique_ptr<jogeon::FBGridParts> parts_;
 };

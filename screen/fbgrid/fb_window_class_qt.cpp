@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTreeView>
+#include <algorithm>
 #include <array>
 #include <string_view>
 

@@ -186,6 +186,43 @@ TEST_F(FBGridTest, KeysScroll) {
     EXPECT_EQ(Focused(), std::to_string(grid.Geometry().GetVisibleRange().minRow + 1) + ",0");
 }
 
+TEST(FBGridExtendedTest, WheelAndListPassTheirKeysToTheGrid) {
+    class KeyedGrid : public CFBGrid {
+    public:
+        std::vector<int> keys;
+
+    protected:
+        void keyPressEvent(QKeyEvent* event) override {
+            keys.push_back(event->key());
+            CFBGrid::keyPressEvent(event);
+        }
+    };
+    QWidget window;
+    KeyedGrid grid;
+    grid.Create(QRect(0, 0, 200, 200), &window, 1);
+    grid.AddColumn("a", 80);
+    grid.AddColumn("b", 80);
+    grid.SetRowCnt(3);
+    grid.AddDropDownItem(std::make_unique<CStringArray>(CStringArray{"one"}));
+    grid[2][1].state = CCell::kList;
+    grid[2][1].listIndex = 0;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    grid.SetCellFocus(1, 1, true, true);
+    const auto turn = [](QWidget* on, int delta) {
+        QWheelEvent event(QPoint(5, 5), on->mapToGlobal(QPoint(5, 5)), {}, {0, delta}, {}, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(on, &event);
+    };
+    turn(grid.viewport(), -120);
+    ASSERT_TRUE(grid.findChild<QWidget*>("6001"));
+    QTest::keyClick(grid.findChild<QWidget*>("6001"), Qt::Key_Left);
+    turn(grid.verticalScrollBar(), 120);
+    EXPECT_EQ(grid.keys, (std::vector<int>{Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}));
+    EXPECT_EQ(grid.GetFocusedCellID(), (CCellID{1, 0}));
+}
+
 TEST_F(FBGridTest, ScrollBarsStepByRowsAndTakeTheFocusFirst) {
     grid.SetRowCnt(1 + 100);
     for (int row = 1; row <= 100; ++row) grid.SetRowHeight(row, 20 + row % 2);  // 21, 20, 21, ...

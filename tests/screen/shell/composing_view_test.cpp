@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/fbgrid/fb_grid_widget.h"
 #include "tests/screen/support/test_host.h"
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 #include <functional>
@@ -9,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/fbgrid/fb_grid_widget.h"
 
 namespace jogeon::test {
