@@ -10,6 +10,7 @@ namespace jogeon::terminal {
 namespace {
 
 constexpr QSize kFirstFrameSize(176 + 585, 548);  // what screen 0150 asks for
+constexpr int kTroubleShown = 15'000;             // milliseconds
 
 QString DateText(int date) {
     return QStringLiteral("%1-%2-%3")
@@ -20,15 +21,14 @@ QString DateText(int date) {
 
 }  // namespace
 
-QString MarketLine(const market::Market& market) {
-    const QString source = market.Generated() ? QStringLiteral("가상 시장 (생성된 데이터)")
-                                              : QString::fromStdString(market.Source());
+QString MarketLine(const service::MarketSummary& market) {
+    const QString source = market.generated ? QStringLiteral("가상 시장 (생성된 데이터)")
+                                            : QString::fromStdString(market.source);
     return QStringLiteral("%1  ·  %2종목  ·  %3 기준")
-        .arg(source, QLocale(QLocale::Korean).toString(static_cast<int>(market.Instruments().size())),
-             DateText(market.LastDate()));
+        .arg(source, QLocale(QLocale::Korean).toString(market.stocks), DateText(market.lastDate));
 }
 
-MainWindow::MainWindow(const QString& user, const market::Market& market) {
+MainWindow::MainWindow(const QString& user, const service::MarketSummary& market) {
     setWindowTitle("jogeon - [0150] 조건검색");
     setCentralWidget(&frame_);
     BuildMenu();
@@ -46,7 +46,7 @@ void MainWindow::BuildMenu() {
     });
 }
 
-void MainWindow::BuildStatusLine(const QString& user, const market::Market& market) {
+void MainWindow::BuildStatusLine(const QString& user, const service::MarketSummary& market) {
     auto* marketLabel = new QLabel(MarketLine(market), this);
     marketLabel->setObjectName("marketLine");
     statusBar()->addWidget(marketLabel, 1);
@@ -54,6 +54,10 @@ void MainWindow::BuildStatusLine(const QString& user, const market::Market& mark
     userLabel->setContentsMargins(0, 0, 6, 0);
     statusBar()->addPermanentWidget(userLabel);
     statusBar()->setSizeGripEnabled(false);
+}
+
+void MainWindow::ShowTrouble(const QString& text) {
+    statusBar()->showMessage(text, kTroubleShown);
 }
 
 // The window grows or shrinks around its frame.

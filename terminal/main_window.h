@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QMainWindow>
 
-#include "server/market/market.h"
+#include "server/service/service.h"
 #include "terminal/host_frame.h"
 
 namespace jogeon::terminal {
@@ -13,19 +13,22 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainWindow(const QString& user, const market::Market& market);
+    MainWindow(const QString& user, const service::MarketSummary& market);
 
     HostFrame& Frame() { return frame_; }
 
+    // Shows the text at the foot for a while, over the market's line.
+    void ShowTrouble(const QString& text);
+
 private:
     void BuildMenu();
-    void BuildStatusLine(const QString& user, const market::Market& market);
+    void BuildStatusLine(const QString& user, const service::MarketSummary& market);
     void GrantSize(QSize frameSize);
 
     HostFrame frame_;
 };
 
 // The line that names the market: where it comes from, how many stocks, its last day.
-QString MarketLine(const market::Market& market);
+QString MarketLine(const service::MarketSummary& market);
 
 }  // namespace jogeon::terminal

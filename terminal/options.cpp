@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <cstdio>
 
+#include "server/remote/loopback_address.h"
+
 namespace jogeon::terminal {
 namespace {
 
@@ -13,6 +15,20 @@ constexpr char kGuest[] = "guest";
 
 void Print(std::FILE* to, const QString& text) {
     std::fputs(text.toUtf8().constData(), to);
+}
+
+// What is wrong with --server, empty if nothing is.
+QString ServerFault(const Options& options) {
+    if (options.server.isEmpty()) return {};
+    if (!options.market.isEmpty() || !options.store.isEmpty()) {
+        return "--server takes neither --market nor --store: the server has its own";
+    }
+    try {
+        const bool anyPort = remote::ReadLoopbackAddress(options.server.toStdString()) == 0;
+        return anyPort ? "--server " + options.server + ": port 0 is nobody's" : QString();
+    } catch (const remote::BadAddress& error) {
+        return "--server " + QString(error.what());
+    }
 }
 
 // What is wrong with the options, empty if nothing is.
@@ -28,7 +44,7 @@ QString Fault(const QCommandLineParser& parser, const Options& options) {
         return "--market " + options.market +
                ": no such file; make one with: jogeond import --out FILE INPUT...";
     }
-    return {};
+    return ServerFault(options);
 }
 
 }  // namespace
@@ -44,12 +60,15 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
                                     "FILE");
     const QCommandLineOption store("store", "Keep the users' condition sets in this file, not in the home.",
                                    "FILE");
+    const QCommandLineOption server(
+        "server", "Use the service at this address, which jogeond serve offers, not one of this process.",
+        "ADDRESS");
     const QCommandLineOption open("open", "Open this condition set at the start.", "SET");
     const QCommandLineOption trace("trace", "Print each request and reply as it goes.");
     const QCommandLineOption demonstrate(
         "demonstrate", "Open a set, search, write a picture of the screen, print the first rows, end.",
         "PICTURE");
-    parser.addOptions({user, home, market, store, open, trace, demonstrate});
+    parser.addOptions({user, home, market, store, server, open, trace, demonstrate});
 
     *status = kWrongUse;
     if (!parser.parse(arguments)) {
@@ -61,8 +80,8 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
         *status = 0;
         return std::nullopt;
     }
-    Options options{parser.value(user), parser.value(home),        parser.value(market), parser.value(store),
-                    parser.value(open), parser.value(demonstrate), parser.isSet(trace)};
+    Options options{parser.value(user),   parser.value(home), parser.value(market),      parser.value(store),
+                    parser.value(server), parser.value(open), parser.value(demonstrate), parser.isSet(trace)};
     if (const QString fault = Fault(parser, options); !fault.isEmpty()) {
         Print(stderr, "jogeon: " + fault + "\n");
         return std::nullopt;

@@ -12,6 +12,7 @@ struct Options {
     QString home;         // empty: the user's own data folder
     QString market;       // a market file; empty: the generated market
     QString store;        // the file of the users' condition sets; empty: in the home folder
+    QString server;       // the address of a service to use; empty: one in this process
     QString openSet;      // a condition set to open at the start
     QString demonstrate;  // where to write the picture; empty: an ordinary start
     bool trace = false;

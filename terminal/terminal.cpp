@@ -7,6 +7,7 @@
 #include "screen/host/message_boxes_qt.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
+#include "server/remote/remote_service.h"
 #include "server/service/local_service.h"
 #include "terminal/trace.h"
 
@@ -26,12 +27,19 @@ std::filesystem::path NativePath(const QString& path) {
 }
 
 // The service of this process, on its own market and store.
-std::unique_ptr<service::Service> StartService(const Options& options, const HomeFolder& home,
-                                               const std::shared_ptr<const market::Market>& market) {
+std::unique_ptr<service::Service> StartService(const Options& options, const HomeFolder& home) {
     const std::filesystem::path file =
         options.store.isEmpty() ? store::StorePath(NativePath(home.path)) : NativePath(options.store);
     auto store = std::make_unique<service::StoreService>(file, PrintLine);
-    return std::make_unique<service::LocalService>(market, std::move(store), PrintLine);
+    return std::make_unique<service::LocalService>(LoadMarket(options.market), std::move(store), PrintLine);
+}
+
+std::unique_ptr<service::Service> ChooseService(const Options& options, const HomeFolder& home,
+                                                RemoteTroubles& troubles) {
+    if (options.server.isEmpty()) return StartService(options, home);
+    return std::make_unique<remote::RemoteService>(
+        options.server.toStdString(),
+        [&troubles](const remote::Trouble& trouble) { troubles.Tell(trouble); });
 }
 
 ServiceCommunication::Tracer TracerOf(const Options& options) {
@@ -43,13 +51,13 @@ ServiceCommunication::Tracer TracerOf(const Options& options) {
 
 Terminal::Terminal(const Options& options)
     : home_(PrepareHome(options.home)),
-      market_(LoadMarket(options.market)),
-      service_(StartService(options, home_, market_)),
+      service_(ChooseService(options, home_, troubles_)),
       communication_(*service_, options.user.toStdString(), TracerOf(options)),
       links_(options.user.toStdString(), home_, service_->Accounts(options.user.toStdString())),
       codeLists_(*service_, options.user.toStdString()),
       module_(ScreenModule::DefaultPath()),
-      window_(options.user, *market_) {
+      window_(options.user, service_->Market()) {
+    QObject::connect(&troubles_, &RemoteTroubles::Told, &window_, &MainWindow::ShowTrouble);
     for (const QString& file : home_.kept) {
         PrintLine(file.toStdString() + ": differs from the one that comes with jogeon, and is used as it is");
     }

@@ -1,4 +1,4 @@
-// The terminal as a whole: home folder, market, service, host services, and the window with the screen.
+// The terminal as a whole: home folder, service, host services, and the window with the screen.
 //
 // Building one makes everything ready and installs the host services; it throws one line for the user when
 // something is missing.
@@ -14,6 +14,7 @@
 #include "terminal/host/questions.h"
 #include "terminal/main_window.h"
 #include "terminal/options.h"
+#include "terminal/remote_troubles.h"
 
 namespace jogeon::terminal {
 
@@ -32,7 +33,7 @@ public:
 
 private:
     const HomeFolder home_;
-    const std::shared_ptr<const market::Market> market_;
+    RemoteTroubles troubles_;
     const std::unique_ptr<service::Service> service_;
     ServiceCommunication communication_;
     Links links_;

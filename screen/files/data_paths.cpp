@@ -10,13 +10,6 @@ namespace {
 constexpr std::string_view kDefaultUserId = "nv3787";
 constexpr std::size_t kMostIdBytes = 8;
 
-bool IsUserId(std::string_view id) {
-    const auto allowed = [](char c) {
-        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
-    };
-    return !id.empty() && id.size() <= kMostIdBytes && std::all_of(id.begin(), id.end(), allowed);
-}
-
 }  // namespace
 
 std::filesystem::path GetHomePath(host::LinkStore& links) {
@@ -29,6 +22,13 @@ std::filesystem::path GetDataFilePath(host::LinkStore& links, const std::filesys
                                       const std::filesystem::path& file) {
     const std::filesystem::path path = GetHomePath(links) / folder;
     return file.empty() ? path : path / file;
+}
+
+bool IsUserId(std::string_view id) {
+    const auto allowed = [](char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+    };
+    return !id.empty() && id.size() <= kMostIdBytes && std::all_of(id.begin(), id.end(), allowed);
 }
 
 std::string GetUserId(host::LinkStore& links) {

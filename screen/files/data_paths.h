@@ -22,8 +22,10 @@ std::filesystem::path GetHomePath(host::LinkStore& links);
 std::filesystem::path GetDataFilePath(host::LinkStore& links, const std::filesystem::path& folder,
                                       const std::filesystem::path& file = {});
 
-// The logged-on user's id, 1 to 8 of [A-Za-z0-9_]; "nv3787" where the host has none or an unusable one,
-// since the id becomes part of file names.
+// Whether the text is 1 to 8 of [A-Za-z0-9_]: the id becomes part of file names.
+bool IsUserId(std::string_view id);
+
+// The logged-on user's id; "nv3787" where the host has none or an unusable one.
 std::string GetUserId(host::LinkStore& links);
 
 }  // namespace jogeon

@@ -8,7 +8,10 @@ namespace jogeon::service {
 
 LocalService::LocalService(std::shared_ptr<const market::Market> market, std::unique_ptr<StoreService> store,
                            FailureLog log)
-    : search_(std::move(market), std::move(log)), store_(std::move(store)) {}
+    : market_{market->Source(), market->Generated(), static_cast<int>(market->Instruments().size()),
+              market->LastDate()},
+      search_(std::move(market), std::move(log)),
+      store_(std::move(store)) {}
 
 std::string LocalService::Handle(const Request& request) {
     if (request.transaction != kStoreTransaction) return search_.Handle(request);
@@ -31,6 +34,10 @@ std::string LocalService::AddInterestGroup(const std::string& user, const std::s
 
 std::string LocalService::StockName(const std::string& code) {
     return search_.StockName(code);
+}
+
+MarketSummary LocalService::Market() {
+    return market_;
 }
 
 }  // namespace jogeon::service

@@ -23,8 +23,10 @@ public:
     std::string AddInterestGroup(const std::string& user, const std::string& name,
                                  const std::vector<std::string>& codes) override;
     std::string StockName(const std::string& code) override;
+    MarketSummary Market() override;
 
 private:
+    const MarketSummary market_;
     SearchService search_;
     const std::unique_ptr<StoreService> store_;
 };

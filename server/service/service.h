@@ -11,6 +11,16 @@
 
 namespace jogeon::service {
 
+// What a window says of the market that is served.
+struct MarketSummary {
+    std::string source;  // where it comes from, UTF-8
+    bool generated = false;
+    int stocks = 0;
+    int lastDate = 0;  // yyyymmdd, 0 for a market without bars
+
+    friend bool operator==(const MarketSummary&, const MarketSummary&) = default;
+};
+
 class Service {
 public:
     virtual ~Service() = default;
@@ -35,6 +45,9 @@ public:
 
     // The name of the stock with this six-byte code; empty if it is unknown.
     virtual std::string StockName(const std::string& code) = 0;
+
+    // Throws std::runtime_error when the service can't tell.
+    virtual MarketSummary Market() = 0;
 };
 
 }  // namespace jogeon::service

@@ -26,6 +26,10 @@ TEST(OptionsTest, WrongUseIsToldInOneLine) {
                                      {"--user", "a b"},
                                      {"--user", "../x"},
                                      {"--market", "/no/such/file"},
+                                     {"--server", "10.0.0.1:50150"},
+                                     {"--server", "127.0.0.1:0"},
+                                     {"--server", "127.0.0.1:50150", "--store", "s.sqlite"},
+                                     {"--server", "127.0.0.1:50150", "--market", __FILE__},
                                      {"--colour"},
                                      {"stray"}}) {
         const Outcome outcome = Read(wrong);
@@ -47,6 +51,7 @@ TEST(OptionsTest, GoodOptionsAreTaken) {
     EXPECT_EQ("s.sqlite", outcome.options->store);
     EXPECT_TRUE(outcome.options->trace);
     EXPECT_EQ("guest", Read({}).options->user);
+    EXPECT_EQ("127.0.0.1:50150", Read({"--server", "127.0.0.1:50150"}).options->server);
 }
 
 }  // namespace

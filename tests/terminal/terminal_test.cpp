@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +19,10 @@
 #include "screen/text/cp949.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
+#include "server/remote/loopback_address.h"
+#include "server/remote/remote_service.h"
+#include "server/remote/service_server.h"
+#include "server/service/local_service.h"
 #include "terminal/demonstration.h"
 #include "terminal/screen_driver.h"
 
@@ -185,6 +190,64 @@ TEST_F(TerminalTest, StoreLiesInTheHomeAndOneThatCantBeOpenedEndsTheStart) {
     } catch (const std::exception& error) {
         EXPECT_TRUE(QString(error.what()).startsWith(folder_.path() + ": can't be opened")) << error.what();
     }
+}
+
+// A terminal whose service is another's, here on another thread.
+class ServedTerminalTest : public TerminalTest {
+protected:
+    ServedTerminalTest()
+        : service_(market::OpenMarket(MarketFile().toStdString()),
+                   std::make_unique<service::StoreService>((folder_.path() + "/sets.sqlite").toStdString())) {
+    }
+
+    void TearDown() override { terminal_.reset(); }  // while there is a server to take its leave of
+
+    void Serve(int port = 0) {
+        server_.emplace(service_, port);
+        options_.server = QString::fromStdString(remote::LoopbackAddress(server_->Port()));
+        options_.market.clear();
+    }
+
+    service::LocalService service_;
+    std::optional<remote::ServiceServer> server_;
+};
+
+TEST_F(ServedTerminalTest, ShowsTheRowsThatATerminalWithItsOwnServiceShows) {
+    Open();
+    const QString set = screen_->SetNames().value(0);
+    ASSERT_TRUE(screen_->OpenSet(set));
+    SearchAndWait();
+    const QList<QStringList> own = screen_->Rows(10000);
+    ASSERT_GT(own.size(), 1);
+    const QString line = terminal_->Window().findChild<QLabel*>("marketLine")->text();
+    terminal_.reset();
+
+    Serve();
+    Open();
+    EXPECT_EQ(line, terminal_->Window().findChild<QLabel*>("marketLine")->text());
+    ASSERT_TRUE(screen_->OpenSet(set));
+    SearchAndWait();
+    EXPECT_EQ(own, screen_->Rows(10000));
+}
+
+TEST_F(ServedTerminalTest, OutlivesItsServerAndFindsTheNextOne) {
+    Serve();
+    Open();
+    const int port = server_->Port();
+    server_.reset();
+    Serve(port);
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().value(0)));
+    SearchAndWait();
+    EXPECT_GT(screen_->Rows(1).size(), 1);
+
+    server_.reset();
+    testing::internal::CaptureStderr();
+    SearchAndWait();
+    const QStatusBar* foot = terminal_->Window().statusBar();
+    EXPECT_EQ("서버에 연결할 수 없습니다.", foot->currentMessage());
+    terminal_.reset();
+    EXPECT_NE(std::string::npos, testing::internal::GetCapturedStderr().find("can't be reached"));
+    EXPECT_THROW(Terminal{options_}, remote::RemoteError) << "nobody to start with";
 }
 
 // The exports that a screen of this host must have and that do nothing here.

@@ -6,6 +6,7 @@
 
 #include "tools/jogeond/import_command.h"
 #include "tools/jogeond/search_command.h"
+#include "tools/jogeond/serve_command.h"
 #include "tools/jogeond/sets_command.h"
 #include "tools/jogeond/verify_command.h"
 
@@ -18,6 +19,7 @@ constexpr char kHelp[] = R"(Usage: jogeond COMMAND [option]...
 
   import   makes a market file from tables of prices
   search   searches a market with a set of conditions
+  serve    serves a market and the users' condition sets to the terminals of this machine
   sets     lists, exports and imports a user's condition sets
   verify   reads a market file to its end and says whether it is whole
 
@@ -32,6 +34,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> rest(args.begin() + (args.empty() ? 0 : 1), args.end());
     if (command == "import") return jogeon::RunImport(rest);
     if (command == "search") return jogeon::RunSearch(rest);
+    if (command == "serve") return jogeon::RunServe(rest);
     if (command == "sets") return jogeon::RunSets(rest);
     if (command == "verify") return jogeon::RunVerify(rest);
     if (command == "--help" || command == "-h") {

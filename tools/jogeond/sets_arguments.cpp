@@ -1,6 +1,5 @@
 #include "tools/jogeond/sets_arguments.h"
 
-#include "server/store/condition_store.h"
 #include "tools/jogeond/shared_options.h"
 
 namespace jogeon {
@@ -25,12 +24,6 @@ MergeMode ParseMode(const Options& options, SetsAction action) {
     if ((update || replace) && action != SetsAction::Import)
         throw BadOptions("--update and --replace belong to import");
     return update ? MergeMode::Update : replace ? MergeMode::Replace : MergeMode::Add;
-}
-
-// The one that the terminal with this home uses.
-std::filesystem::path StoreOption(const Options& options) {
-    if (options.Has("--store")) return options.Get("--store");
-    return store::StorePath(options.Has("--home") ? std::filesystem::path(options.Get("--home")) : OwnHome());
 }
 
 }  // namespace

@@ -1,20 +1,14 @@
 #include "tools/jogeond/shared_options.h"
 
-#include <algorithm>
 #include <cstdlib>
+
+#include "screen/files/data_paths.h"
+#include "server/store/condition_store.h"
 
 namespace jogeon {
 namespace {
 
 constexpr char kHomeVariable[] = "JOGEON_HOME_DATA";
-constexpr std::size_t kMaxUserId = 8;
-
-// The id is part of a file name.
-bool IsUserId(std::string_view id) {
-    return !id.empty() && id.size() <= kMaxUserId && std::all_of(id.begin(), id.end(), [](char c) {
-        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
-    });
-}
 
 std::string DefaultHome() {
     if (const char* home = std::getenv(kHomeVariable)) return home;
@@ -37,6 +31,11 @@ std::filesystem::path HomeOption(const Options& options) {
     const std::string home = options.Get("--home", DefaultHome());
     if (home.empty()) throw BadOptions("where is the catalogue? --home DIR says it");
     return home;
+}
+
+std::filesystem::path StoreOption(const Options& options) {
+    if (options.Has("--store")) return options.Get("--store");
+    return store::StorePath(options.Has("--home") ? std::filesystem::path(options.Get("--home")) : OwnHome());
 }
 
 }  // namespace jogeon

@@ -16,6 +16,9 @@ std::string UserOption(const Options& options, std::string_view missing);
 // were built or installed. Throws BadOptions where nothing tells.
 std::filesystem::path HomeOption(const Options& options);
 
+// --store; without it the store of the terminal with this home, or of the terminal's own home.
+std::filesystem::path StoreOption(const Options& options);
+
 // The home folder that the terminal keeps for this computer's user.
 std::filesystem::path OwnHome();
 

@@ -1,0 +1,60 @@
+// One end of a connection: makes the calls, and turns what went wrong into a line for the user.
+#pragma once
+
+#include <atomic>
+#include <optional>
+
+#include "server/remote/jogeon.grpc.pb.h"
+#include "server/remote/remote_service.h"
+
+namespace jogeon::remote {
+
+struct RemoteService::Connection {
+    Connection(std::string address, TroubleLog log, RemoteSettings settings);
+
+    template <typename Request, typename Reply>
+    using Method = grpc::Status (ConditionService::Stub::*)(grpc::ClientContext*, const Request&, Reply*);
+
+    // Calls and waits. False, with the trouble logged, when the call failed.
+    template <typename Request, typename Reply>
+    bool Ask(Method<Request, Reply> call, const Request& request, Reply& reply,
+             std::chrono::milliseconds deadline) {
+        const std::optional<Trouble> trouble = Call(call, request, reply, deadline);
+        if (trouble && log) log(*trouble);
+        return !trouble;
+    }
+
+    // The same, but throws the trouble as a RemoteError.
+    template <typename Request, typename Reply>
+    void Demand(Method<Request, Reply> call, const Request& request, Reply& reply) {
+        const std::optional<Trouble> trouble = Call(call, request, reply, settings.callDeadline);
+        if (trouble) throw RemoteError(trouble->line);
+    }
+
+    // Whether a call failed a moment ago.
+    bool InTrouble() const;
+
+    const std::string address;
+    const TroubleLog log;
+    const RemoteSettings settings;
+    const std::uint32_t windowShift;
+    const std::unique_ptr<ConditionService::Stub> stub;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    template <typename Request, typename Reply>
+    std::optional<Trouble> Call(Method<Request, Reply> call, const Request& request, Reply& reply,
+                                std::chrono::milliseconds deadline) {
+        grpc::ClientContext context;
+        Prepare(context, deadline);
+        return Judge((stub.get()->*call)(&context, request, &reply), deadline);
+    }
+
+    void Prepare(grpc::ClientContext& context, std::chrono::milliseconds deadline) const;
+    std::optional<Trouble> Judge(const grpc::Status& status, std::chrono::milliseconds deadline);
+
+    std::atomic<Clock::time_point> lastTrouble_{Clock::time_point::min()};
+};
+
+}  // namespace jogeon::remote

@@ -1,0 +1,70 @@
+// The service of another process, over a connection.
+//
+// Relies on gRPC. The connection is made at the first call, and made again whenever it broke: a call while
+// there is no server fails at once, one after the server came back succeeds. No call is sent twice: a save
+// whose answer was lost is for the user's next version check to find.
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+
+#include "server/remote/protocol.h"
+#include "server/service/service.h"
+
+namespace jogeon::remote {
+
+// Why a call failed.
+struct Trouble {
+    enum class Kind {
+        Unreachable,    // nobody listens there, or he went away before he answered
+        Late,           // no answer within the time for it
+        OtherProtocol,  // another program, or a jogeon of another version
+        Failed,         // the server says that it can't
+    };
+    Kind kind = Kind::Failed;
+    std::string line;  // for the user
+};
+
+// Thrown with the trouble's line where a call has no other way to fail.
+class RemoteError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct RemoteSettings {
+    // The screen waits for no answer longer than twenty seconds.
+    std::chrono::milliseconds handleDeadline{20'000};
+    // For the calls that a user interface makes on its own thread.
+    std::chrono::milliseconds callDeadline{5'000};
+    int protocol = kProtocol;
+};
+
+class RemoteService : public service::Service {
+public:
+    using TroubleLog = std::function<void(const Trouble&)>;
+
+    // `address` as ReadLoopbackAddress has it, with a port. `log` may be empty; it hears of calls that
+    // failed without throwing, on the threads that made them, before they return.
+    explicit RemoteService(const std::string& address, TroubleLog log = {}, RemoteSettings settings = {});
+    ~RemoteService() override;
+
+    // Empty, too, when the call failed.
+    std::string Handle(const service::Request& request) override;
+    bool FillCodeLists(const std::string& user,
+                       std::map<std::string, std::vector<std::string>>& lists) override;
+    std::vector<std::string> Accounts(const std::string& user) override;
+    std::string AddInterestGroup(const std::string& user, const std::string& name,
+                                 const std::vector<std::string>& codes) override;
+
+    // Empty, too, when the call failed, and without a call for a moment after that: names are asked for by
+    // the hundred, and a server that hangs would hold up each of them.
+    std::string StockName(const std::string& code) override;
+    service::MarketSummary Market() override;
+
+private:
+    struct Connection;
+    std::unique_ptr<Connection> connection_;
+};
+
+}  // namespace jogeon::remote

@@ -1,0 +1,40 @@
+// The calls of a connection, each turned into one of a service.
+#pragma once
+
+#include "server/remote/jogeon.grpc.pb.h"
+#include "server/service/service.h"
+
+namespace jogeon::remote {
+
+class ServiceCalls : public ConditionService::Service {
+public:
+    // `service` outlives this; `log` may be empty.
+    ServiceCalls(service::Service& service, service::FailureLog log);
+
+    grpc::Status Handle(grpc::ServerContext* context, const HandleRequest* request,
+                        HandleReply* reply) override;
+    grpc::Status FillCodeLists(grpc::ServerContext* context, const CodeListsRequest* request,
+                               CodeListsReply* reply) override;
+    grpc::Status Accounts(grpc::ServerContext* context, const AccountsRequest* request,
+                          AccountsReply* reply) override;
+    grpc::Status AddInterestGroup(grpc::ServerContext* context, const InterestGroupRequest* request,
+                                  InterestGroupReply* reply) override;
+    grpc::Status StockName(grpc::ServerContext* context, const StockNameRequest* request,
+                           StockNameReply* reply) override;
+    grpc::Status Market(grpc::ServerContext* context, const MarketRequest* request,
+                        MarketReply* reply) override;
+
+private:
+    // Runs `call` when the asker speaks this protocol; what it throws becomes the call's failure.
+    template <typename Call>
+    grpc::Status Answer(const grpc::ServerContext& context, Call call);
+
+    // The same for a call of a user, once his id is one.
+    template <typename Request, typename Call>
+    grpc::Status AnswerUser(const grpc::ServerContext& context, const Request& request, Call call);
+
+    service::Service& service_;
+    const service::FailureLog log_;
+};
+
+}  // namespace jogeon::remote

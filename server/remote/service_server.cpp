@@ -1,0 +1,52 @@
+#include "server/remote/service_server.h"
+
+#include <chrono>
+#include <utility>
+
+#include <grpcpp/server_builder.h>
+
+#include "server/remote/loopback_address.h"
+#include "server/remote/protocol.h"
+#include "server/remote/service_calls.h"
+
+namespace jogeon::remote {
+namespace {
+
+constexpr std::chrono::seconds kGrace(5);  // for calls under way when the server ends
+
+// Two servers on one port would share its calls between them, each with a store and results of its own.
+constexpr int kPortIsOurs = 0;
+
+}  // namespace
+
+struct ServiceServer::State {
+    State(service::Service& service, service::FailureLog log) : calls(service, std::move(log)) {}
+
+    ServiceCalls calls;
+    int port = 0;
+    std::unique_ptr<grpc::Server> server;
+};
+
+ServiceServer::ServiceServer(service::Service& service, int port, service::FailureLog log)
+    : state_(std::make_unique<State>(service, std::move(log))) {
+    SilenceLibrary();
+    grpc::ServerBuilder builder;
+    builder.AddChannelArgument(GRPC_ARG_ALLOW_REUSEPORT, kPortIsOurs);
+    builder.AddListeningPort(LoopbackAddress(port), grpc::InsecureServerCredentials(), &state_->port);
+    builder.RegisterService(&state_->calls);
+    state_->server = builder.BuildAndStart();
+    if (!state_->server || state_->port == 0)
+        throw ListenError("can't listen on " + LoopbackAddress(port) +
+                          ": another program has the port, or this user may not use it");
+}
+
+ServiceServer::~ServiceServer() {
+    state_->server->Shutdown(std::chrono::system_clock::now() + kGrace);
+    state_->server->Wait();
+}
+
+int ServiceServer::Port() const {
+    return state_->port;
+}
+
+}  // namespace jogeon::remote
