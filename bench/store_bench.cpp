@@ -13,15 +13,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "bench/stored_record.h"
 #include "screen/text/bytes.h"
 #include "screen/transactions/list_request.h"
-#include "server/service/condition_set.h"
 #include "server/service/store_service.h"
 
 namespace jogeon {
 namespace {
 
-constexpr int kConditions = 20;
 constexpr int kSets = 99;
 
 // A folder of this process's, gone with it.
@@ -52,28 +51,6 @@ const Folder& TheFolder() {
 
 std::string User(int thread) {
     return "user" + ZeroPadded(thread, 3);
-}
-
-// A set of twenty conditions as it stands in a save.
-std::string Record(const std::string& user, const std::string& number) {
-    service::ConditionSet set;
-    set.header.userId = user;
-    set.header.number = number;
-    set.header.name = "bench";
-    set.header.target.Upjong = 1;
-    set.header.target.Group = {"ALL"};
-    for (int i = 0; i < kConditions; ++i) {
-        DecodedBlock block;
-        block.family = 'T';
-        block.inUse = true;
-        block.letter = static_cast<char>('A' + i);
-        block.key = "010101";
-        block.number = 12;
-        block.roles = {{20, "D"}, {30, "0"}, {40, Decimal(5 + i)}, {50, "0"}};
-        set.header.exp += (i ? "&" : "") + std::string(1, block.letter);
-        set.blocks.push_back(block);
-    }
-    return service::WriteConditionSet(set);
 }
 
 std::string Answer(service::StoreService& service, const std::string& user, const std::string& payload) {

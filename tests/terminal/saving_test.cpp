@@ -1,101 +1,14 @@
 // Condition sets from the button to the service's file and back: the real module, the real service, one or
 // two terminals of the same user.
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
-#include "screen/text/cp949.h"
-#include "server/market/market_builder.h"
 #include "server/service/local_service.h"
-#include "terminal/home_folder.h"
-#include "terminal/host/clock.h"
-#include "terminal/host/code_lists.h"
-#include "terminal/host/communication.h"
-#include "terminal/host/host_colors.h"
-#include "terminal/host/links.h"
-#include "terminal/host_frame.h"
-#include "terminal/screen_driver.h"
-#include "terminal/screen_module.h"
-#include "tests/screen/support/recorders.h"
+#include "tests/terminal/support/desk.h"
 
 namespace jogeon::terminal {
 namespace {
-
-constexpr int kPatience = 60000;  // milliseconds
-constexpr char kUser[] = "tester";
-
-std::shared_ptr<const market::Market> OneStock() {
-    market::MarketBuilder builder;
-    market::Instrument stock;
-    stock.code = "000010";
-    builder.AddBar(builder.AddInstrument(stock), 20240102, 10, 11, 9, 10, 100);
-    return builder.Build();
-}
-
-// A terminal whose user answers as the test says.
-class Desk {
-public:
-    Desk(service::Service& service, const QString& home)
-        : communication_(service, kUser, {}),
-          links_(kUser, PrepareHome(home), {}),
-          codeLists_(service, kUser),
-          module_(ScreenModule::DefaultPath()),
-          driver_(frame_) {
-        questions.onRun = [this](const std::string&, void* dialog) { return Name(dialog); };
-        host::Install({&communication_, &links_, &codeLists_, &colors_, &questions, &clock_});
-        EXPECT_TRUE(frame_.Open(module_));
-        frame_.show();
-        Settle();
-    }
-    ~Desk() { frame_.Close(); }
-
-    // Opens a set of the firm and saves it under this name; true if the service took it.
-    bool SaveAs(const QString& name) {
-        EXPECT_TRUE(driver_.OpenSet("적삼병"));
-        return Save(name);
-    }
-
-    bool Save(const QString& name) {
-        name_ = name;
-        questions.boxes.clear();
-        frame_.findChild<QAbstractButton*>("21024")->click();
-        Settle();
-        return !questions.boxes.empty() &&
-               ToUtf8(questions.boxes[0].text).starts_with("사용자정의 조건이 조건번호");
-    }
-
-    // The user's sets in the tree, with the firm's behind them.
-    bool Shows(const QString& name) const { return driver_.SetNames().contains(name); }
-
-    test::ScriptedQuestions questions;
-
-private:
-    bool Name(void* object) {
-        auto* dialog = static_cast<QDialog*>(object);
-        dialog->findChild<QLineEdit*>()->setText(name_);
-        dialog->accept();
-        return dialog->result() == QDialog::Accepted;
-    }
-
-    void Settle() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return communication_.Idle(); }, kPatience));
-    }
-
-    ServiceCommunication communication_;
-    Links links_;
-    ServiceCodeLists codeLists_;
-    HostColors colors_;
-    QtClock clock_;
-    const ScreenModule module_;
-    HostFrame frame_;
-    ScreenDriver driver_;
-    QString name_;
-};
 
 class SavingTest : public testing::Test {
 protected:
