@@ -40,8 +40,11 @@ bool ConditionEditor::MakeRoomForOne() {
     return true;
 }
 
+// The condition that the panel shows is meant. That is the focused row's, but a press of a row's button takes
+// the focus away.
 void ConditionEditor::Replace() {
-    const int index = view_.FocusedRow() - 1;
+    int index = 0;
+    while (IsRow(index) && &At(index) != view_.ShownCondition()) ++index;
     if (!IsRow(index)) return;
     std::unique_ptr<CIndexInfo> replacement = view_.PanelCondition();
     replacement->m_bShowValue = At(index).m_bShowValue;
@@ -176,7 +179,7 @@ void ConditionEditor::ApplyBarsAgo(int amount, int mode) {
     for (int index = 0; IsRow(index); ++index) {
         if (!At(index).ApplyBarsAgo(amount, mode, questions_)) break;
         view_.UpdateRow(index + 1, At(index));
-        if (view_.FocusedRow() == index + 1) view_.RefreshCondition(At(index));
+        if (view_.ShownCondition() == &At(index)) view_.RefreshCondition(At(index));
     }
     dirty_ = true;
 }

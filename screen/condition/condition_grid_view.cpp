@@ -57,6 +57,10 @@ void ConditionCells::keyPressEvent(QKeyEvent* event) {
     }
     const int before = GetFocusedCellID().row;
     CFBGrid::keyPressEvent(event);
+    TellRowReached(before);
+}
+
+void ConditionCells::TellRowReached(int before) {
     const int row = GetFocusedCellID().row;
     if (row != before && row > 0 && onRowReached) onRowReached(row);
 }
@@ -65,7 +69,9 @@ void ConditionCells::keyPressEvent(QKeyEvent* event) {
 void ConditionCells::contextMenuEvent(QContextMenuEvent* event) {
     const CCellID cell = Geometry().GetCellFromPt({event->x(), event->y()}, false);
     if (event->reason() == QContextMenuEvent::Mouse && cell.row > 0) {
+        const int before = GetFocusedCellID().row;
         SetCellFocus(cell.row, kColumnContent, true, true);
+        TellRowReached(before);
     }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

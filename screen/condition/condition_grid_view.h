@@ -20,8 +20,9 @@ struct ListCommand {
     std::function<void()> run;
 };
 
-// The cells. Beyond what every grid does, an arrow key that reaches another row selects its condition, the
-// keys of the list's commands work, and a description that is cut shows whole in a tooltip.
+// The cells. Beyond what every grid does, a key, the wheel or the right button that brings the focus to
+// another row selects its condition, the keys of the list's commands work, and a description that is cut
+// shows whole in a tooltip.
 class ConditionCells : public CFBGrid {
     Q_OBJECT
 
@@ -37,6 +38,7 @@ protected:
     bool viewportEvent(QEvent* event) override;
 
 private:
+    void TellRowReached(int before);
     bool ShowWholeText(QPoint position, QPoint globalPosition);
 };
 

@@ -20,7 +20,6 @@ public:
     virtual void FillConditionGrid(const ConditionList& conditions) = 0;
     virtual void UpdateRow(int row, const CIndexInfo& condition) = 0;  // repaints one row as it is now
     virtual void FocusRow(int row) = 0;
-    virtual int FocusedRow() const = 0;  // -1 for none
     virtual void ClearSequenceMarks() = 0;
 
     virtual std::string ExpressionText() const = 0;  // the display form
@@ -30,6 +29,10 @@ public:
     // panel comes to sight with it.
     virtual void ShowCondition(const CIndexInfo& condition, bool shown) = 0;
     virtual void RefreshCondition(const CIndexInfo& condition) = 0;  // the same, with its values read anew
+
+    // What the panel shows: a condition of the list, one of the tree that isn't in the list, or nothing. It
+    // may be gone already, so that it is only compared.
+    virtual const CIndexInfo* ShownCondition() const = 0;
     virtual void HidePanel() = 0;
     virtual void ResetPanel() = 0;  // it shows nothing, and remembers no condition of the list
 

@@ -16,7 +16,6 @@ public:
 
     void FillConditionGrid(const ConditionList& conditions) override { grid_.Fill(conditions); }
     void UpdateRow(int row, const CIndexInfo& condition) override { grid_.UpdateRow(row, condition); }
-    int FocusedRow() const override { return grid_.FocusedRow(); }
     void FocusRow(int row) override { grid_.FocusRow(row); }
     void ClearSequenceMarks() override { grid_.ClearMarks(); }
     std::string ExpressionText() const override { return expression_.ExpressionText(); }
@@ -28,6 +27,7 @@ public:
     void RefreshCondition(const CIndexInfo& condition) override {
         panel_.ShowIndex(true, &condition, PanelMode::Existing);
     }
+    const CIndexInfo* ShownCondition() const override { return panel_.Current(); }
     void HidePanel() override {
         panel_.Reset();
         panel_.hide();

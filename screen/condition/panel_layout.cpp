@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "screen/condition/token_list.h"
+#include "screen/text/bytes.h"
 
 namespace jogeon {
 namespace {
@@ -58,10 +59,10 @@ std::vector<PanelRect> RowsOfOptions(const PanelRect& rect, const std::vector<st
 // The ids that any option of the selector names.
 std::set<int> NamedIds(const CIndexField& selector) {
     std::set<int> ids;
-    CIndexField option = selector;
-    const int options = CTokenList(selector.m_strVariantFields, '|').GetCount();
-    for (option.m_nSelected = 0; option.m_nSelected < options; ++option.m_nSelected) {
-        ids.merge(ActiveFieldIds(option));
+    const CTokenList options(selector.m_strVariantFields, '|');
+    for (const std::string& option : options.Tokens()) {
+        const CTokenList list(option, '^');
+        for (const std::string& id : list.Tokens()) ids.insert(Atoi(id));
     }
     return ids;
 }

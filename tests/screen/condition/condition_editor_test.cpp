@@ -1,14 +1,18 @@
 #include "screen/condition/condition_editor.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <random>
 
 #include <gtest/gtest.h>
 
 #include "screen/expression/expression_check.h"
+#include "screen/expression/expression_operations.h"
 #include "screen/expression/expression_text.h"
 #include "screen/text/cp949.h"
+#include "screen/transactions/search_request.h"
+#include "tests/screen/support/columns.h"
 #include "tests/screen/support/condition_list_view.h"
 #include "tests/screen/support/recorders.h"
 
@@ -152,11 +156,11 @@ TEST(ConditionEditorTest, AddingJoinsOnlyWhereSomethingIsChecked) {
     EXPECT_EQ("(C) and D", desk.view.expression);
 }
 
-TEST(ConditionEditorTest, ReplacingKeepsLetterAndChecks) {
+TEST(ConditionEditorTest, ReplacesTheConditionInThePanelAndKeepsLetterAndChecks) {
     Desk desk("Ab", "A");
     desk.view.panelKey = "0102030008";
-    desk.view.FocusRow(2);
     desk.editor.OnCellPressed(2, kColumnValue);
+    desk.view.FocusRow(-1);  // as a press of a row's button leaves it
     desk.editor.SetDirty(false);
     desk.editor.Replace();
     const CIndexInfo& replaced = *desk.editor.Conditions()[1];
@@ -165,9 +169,12 @@ TEST(ConditionEditorTest, ReplacingKeepsLetterAndChecks) {
     EXPECT_EQ(0, replaced.m_bChecked);
     EXPECT_EQ(1, replaced.m_bShowValue);
     EXPECT_TRUE(desk.editor.Dirty());
-    desk.view.FocusRow(-1);
-    desk.editor.Replace();  // no row, nothing to replace
-    EXPECT_EQ("Ab", desk.view.rows);
+    desk.editor.ApplyBarsAgo(3, 0);
+    EXPECT_EQ(&replaced, desk.view.refreshed);
+    desk.view.ResetPanel();
+    desk.view.FocusRow(1);
+    desk.editor.Replace();  // the panel shows none of the list
+    EXPECT_EQ("", desk.editor.Conditions()[0]->m_strKey);
 }
 
 TEST(ConditionEditorTest, ADeletionIsAskedForAsTheSettingSays) {
@@ -206,58 +213,136 @@ TEST(ConditionEditorTest, CheckingAllAndNoneForgetsTheBrackets) {
     EXPECT_EQ("", desk.view.expression);
 }
 
+// A desk whose list and expression are worked on at random.
+struct RandomDesk {
+    explicit RandomDesk(unsigned seed) : random(seed) {
+        desk.editor.Clear();
+        desk.settings.delConfirm = 0;
+    }
+
+    int Pick(int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); }
+
+    void ChangeList() {
+        ConditionEditor& editor = desk.editor;
+        const int anyRow = static_cast<int>(desk.view.rows.size()) + 1;
+        switch (Pick(8)) {
+            case 0:
+            case 1:
+                return editor.Add();
+            case 2:
+                return editor.OnCellPressed(1 + Pick(anyRow), kColumnChecked);
+            case 3:
+                return editor.OnButtonPressed(1 + Pick(anyRow), kColumnUp + Pick(4));
+            case 4:
+                return editor.OnRowDropped(1 + Pick(anyRow), 1 + Pick(anyRow));
+            case 5:
+                if (Pick(3) == 0) editor.OnButtonPressed(1 + Pick(anyRow), kColumnDelete);
+                return;
+            case 6:
+                if (Pick(4) == 0) editor.OnHeaderPressed(kColumnLetter);
+                return;
+            default:
+                if (Pick(10) == 0) editor.OnHeaderPressed(kColumnChecked);
+                return;
+        }
+    }
+
+    // Negates or brackets a part of the expression that is an expression itself, of whole words, or takes
+    // brackets away.
+    void ChangeExpression() {
+        std::string& text = desk.view.expression;
+        const int start = Pick(static_cast<int>(text.size()) + 1);
+        const int end = start + Pick(static_cast<int>(text.size()) - start + 1);
+        const auto from = static_cast<std::size_t>(start), to = static_cast<std::size_t>(end);
+        const bool cutsWord = (from > 0 && std::islower(text[from - 1]) && std::islower(text[from])) ||
+                              (to > 0 && std::islower(text[to - 1]) && std::islower(text[to]));
+        if (cutsWord || !CheckExpressionText(text.substr(from, to - from)).valid) return;
+        constexpr std::array kOperations = {ToggleNot, Parenthesize, RemoveParenthesis};
+        text = kOperations[static_cast<std::size_t>(Pick(3))](text, {start, end}).text;
+    }
+
+    // Of the checked conditions, sorted.
+    std::string CheckedLetters() const {
+        std::string letters;
+        for (const CIndexInfo* condition : desk.editor.Conditions()) {
+            if (condition->m_bChecked) letters += condition->m_chLetter;
+        }
+        std::sort(letters.begin(), letters.end());
+        return letters;
+    }
+
+    std::string LettersOfText() const {
+        std::string letters = ToCompactForm(desk.view.expression);
+        std::erase_if(letters, [](char c) { return c < 'A' || c > 'Z'; });
+        std::sort(letters.begin(), letters.end());
+        return letters;
+    }
+
+    bool TextIsValid() const { return CheckExpressionText(desk.view.expression).valid; }
+
+    bool ListIsAsShown() const {
+        std::string rows;
+        for (const CIndexInfo* condition : desk.editor.Conditions()) {
+            const char letter = condition->m_chLetter;
+            rows += condition->m_bChecked ? letter : static_cast<char>(std::tolower(letter));
+        }
+        return rows == desk.view.rows;
+    }
+
+    bool SearchGoesOut() {
+        SearchInputs inputs;
+        inputs.conditions = desk.editor.Conditions();
+        inputs.expressionText = desk.view.expression;
+        inputs.checkExpression = [](const std::string& text) { return CheckExpressionText(text).valid; };
+        return ComposeSearch(inputs, columns, desk.questions).has_value();
+    }
+
+    std::mt19937 random;
+    Desk desk{"", ""};
+    ColumnTables columns = test::SmallTables();
+};
+
 // Whatever is done to the list, as long as nobody brackets or negates: the text is well formed and holds
 // exactly the letters of the checked conditions.
 TEST(ConditionEditorTest, RandomCommandsKeepListGridAndExpressionTogether) {
-    std::mt19937 random(20240102);
-    const auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
-    for (int run = 0; run < 300; ++run) {
-        Desk desk("", "");
-        desk.editor.Clear();
-        desk.settings.delConfirm = 0;
+    for (unsigned run = 0; run < 300; ++run) {
+        RandomDesk random(20240102 + run);
         for (int step = 0; step < 60; ++step) {
-            const int rows = static_cast<int>(desk.view.rows.size());
-            switch (pick(8)) {
-                case 0:
-                case 1:
-                    desk.editor.Add();
-                    break;
-                case 2:
-                    desk.editor.OnCellPressed(1 + pick(rows + 1), kColumnChecked);
-                    break;
-                case 3:
-                    desk.editor.OnButtonPressed(1 + pick(rows + 1), kColumnUp + pick(4));
-                    break;
-                case 4:
-                    desk.editor.OnRowDropped(1 + pick(rows + 1), 1 + pick(rows + 1));
-                    break;
-                case 5:
-                    if (pick(3) == 0) desk.editor.OnButtonPressed(1 + pick(rows + 1), kColumnDelete);
-                    break;
-                case 6:
-                    if (pick(4) == 0) desk.editor.OnHeaderPressed(kColumnLetter);
-                    break;
-                default:
-                    if (pick(10) == 0) desk.editor.OnHeaderPressed(kColumnChecked);
-                    break;
-            }
-            std::string checked, letters;
-            const auto conditions = desk.editor.Conditions();
-            ASSERT_EQ(conditions.size(), desk.view.rows.size());
-            for (std::size_t i = 0; i < conditions.size(); ++i) {
-                ASSERT_EQ(conditions[i]->m_chLetter, std::toupper(desk.view.rows[i]));
-                if (conditions[i]->m_bChecked) checked += conditions[i]->m_chLetter;
-            }
-            for (const char c : ToCompactForm(desk.view.expression)) {
-                if (c >= 'A' && c <= 'Z') letters += c;
-            }
-            std::sort(checked.begin(), checked.end());
-            std::sort(letters.begin(), letters.end());
-            ASSERT_EQ(checked, letters) << desk.view.rows << " " << desk.view.expression;
-            ASSERT_TRUE(checked.empty() || CheckExpressionText(desk.view.expression).valid)
-                << desk.view.rows << " " << desk.view.expression;
+            random.ChangeList();
+            SCOPED_TRACE(random.desk.view.rows + " " + random.desk.view.expression);
+            ASSERT_TRUE(random.ListIsAsShown());
+            ASSERT_EQ(random.CheckedLetters(), random.LettersOfText());
+            ASSERT_TRUE(random.CheckedLetters().empty() || random.TextIsValid());
         }
     }
+}
+
+// Brackets and negations of parts come between the commands. The rules of the letters don't look at the
+// syntax and may leave a text that is no expression (A out of `(((A)))`): then it is refused, and no search
+// goes out. Until then, and still in that text, the letters are exactly those of the checked conditions.
+TEST(ConditionEditorTest, RandomBracketsNeverLoseALetterOfAnExpression) {
+    int broken = 0;
+    for (unsigned run = 0; run < 1000; ++run) {
+        RandomDesk random(run);
+        bool whole = true;  // the text has been an expression, or empty, up to the step before
+        for (int step = 0; step < 40; ++step) {
+            random.Pick(2) == 0 ? random.ChangeList() : random.ChangeExpression();
+            const std::string& text = random.desk.view.expression;
+            SCOPED_TRACE(random.desk.view.rows + " " + text);
+            ASSERT_TRUE(random.ListIsAsShown());
+            if (whole) {
+                ASSERT_EQ(random.CheckedLetters(), random.LettersOfText());
+            }
+            const bool fits = ToCompactForm(text).size() <= kMaxExpressionBytes;
+            const bool searchable = random.TextIsValid() && fits && !random.CheckedLetters().empty();
+            ASSERT_EQ(searchable, random.SearchGoesOut());
+            if (whole && !random.TextIsValid() && !text.empty()) {
+                whole = false;
+                ++broken;
+            }
+        }
+    }
+    EXPECT_GT(broken, 0) << "no text was broken: then the letters can be compared at every step";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -210,6 +211,35 @@ TEST_F(ComposingTest, GridAndListStayTogetherUnderTheMouse) {
     ClickCell(0, 4);
     EXPECT_EQ("", Box().ExpressionText());
     EXPECT_EQ(1, grid.GetRowCnt());
+}
+
+// However the focus came to a row, and where it is gone: what is modified is what the panel shows.
+TEST_F(ComposingTest, ModifyingChangesTheConditionThatThePanelShows) {
+    for (int i = 0; i < 2; ++i) {
+        Pick("주가이평돌파");
+        Click(31050);
+    }
+    auto& grid = host.Control<CFBGrid>(16129);
+    const auto modifyTo = [&](const char* days) {
+        auto* period = host.Control<QWidget>(21002).findChild<QAbstractSpinBox*>();
+        period->setFocus();
+        period->selectAll();
+        QTest::keyClicks(period, days);
+        Click(31051);
+    };
+    const auto text = [&](int row) { return ToUtf8(grid.GetCell(row, 2).text); };
+    ClickCell(1, 2);
+    modifyTo("11");
+    QWheelEvent down({5, 25}, grid.mapToGlobal(QPointF(5, 25)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(grid.viewport(), &down);
+    modifyTo("22");
+    EXPECT_EQ("[지수] 11일 이평 0", text(1));
+    EXPECT_EQ("[지수] 22일 이평 0", text(2));
+    ClickCell(1, 5);  // A can't go further up, but its button has the focus
+    modifyTo("33");
+    EXPECT_EQ("[지수] 11일 이평 0", text(1));
+    EXPECT_EQ("[지수] 33일 이평 0", text(2));
 }
 
 }  // namespace

@@ -19,28 +19,29 @@ public:
         rows.at(static_cast<std::size_t>(row - 1)) = Mark(condition);
     }
     void FocusRow(int row) override { focusedRow = row; }
-    int FocusedRow() const override { return focusedRow; }
     void ClearSequenceMarks() override {}
     std::string ExpressionText() const override { return expression; }
     void SetExpressionText(const std::string& text) override { expression = text; }
     void ShowCondition(const CIndexInfo& condition, bool shown) override {
-        panel = condition.m_chLetter;
+        RefreshCondition(condition);
         panelShown = shown;
     }
-    void RefreshCondition(const CIndexInfo& condition) override { panel = condition.m_chLetter; }
+    const CIndexInfo* ShownCondition() const override { return panel; }
+    void RefreshCondition(const CIndexInfo& condition) override { panel = refreshed = &condition; }
     void HidePanel() override { panelShown = false; }
-    void ResetPanel() override { panel.clear(); }
+    void ResetPanel() override { panel = nullptr; }
     std::unique_ptr<CIndexInfo> PanelCondition() override {
         auto condition = std::make_unique<CIndexInfo>();
         condition->m_strKey = panelKey;
         return condition;
     }
-    void OnAdded(const CIndexInfo& condition) override { panel = condition.m_chLetter; }
+    void OnAdded(const CIndexInfo& condition) override { panel = &condition; }
 
     // One letter a row; a small one for an unchecked condition.
     std::string rows;
     std::string expression;
-    std::string panel;  // the letter of the condition in the panel
+    const CIndexInfo* panel = nullptr;      // the condition in the panel
+    const CIndexInfo* refreshed = nullptr;  // the last one that it was given
     std::string panelKey = "0101010008";
     bool panelShown = false;
     int focusedRow = -1;
