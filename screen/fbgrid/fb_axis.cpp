@@ -23,6 +23,7 @@ void FBAxis::Resize(int count, int newSize) {
         sums_[n] = sizes_[n - 1];
         for (std::size_t part = n - 1; part > n - LowBit(n); part -= LowBit(part)) sums_[n] += sums_[part];
     }
+    total_ = Offset(Count());
 }
 
 int FBAxis::Size(int index) const {
@@ -36,6 +37,7 @@ void FBAxis::SetSize(int index, int size) {
     stored = std::max(size, 0);
     for (std::size_t n = static_cast<std::size_t>(index) + 1; n < sums_.size(); n += LowBit(n))
         sums_[n] += change;
+    total_ += change;
 }
 
 std::int64_t FBAxis::Offset(int index) const {

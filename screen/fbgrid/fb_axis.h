@@ -23,7 +23,7 @@ public:
 
     // The sum of the sizes before `index`, which is cut to 0..Count(). Total() is that of all.
     std::int64_t Offset(int index) const;
-    std::int64_t Total() const { return Offset(Count()); }
+    std::int64_t Total() const { return total_; }
 
     // The index whose pixels hold `position`: the first one whose end lies beyond it. Count() if none does, 0
     // for a negative position.
@@ -32,4 +32,5 @@ public:
 private:
     std::vector<int> sizes_;
     std::vector<std::int64_t> sums_;
+    std::int64_t total_ = 0;
 };

@@ -18,8 +18,10 @@ public:
           client_(std::max(client, 0)),
           page_(std::max<std::int64_t>(client_ - headers_, 0)),
           scroll_(std::clamp(scroll, 0, Range().maximum)),
-          first_(FirstShown()),
-          start_(axis.Offset(first_)) {}
+          first_(fixed_),
+          start_(headers_) {
+        if (scroll_ > 0) FindFirstShown();
+    }
 
     int First() const { return first_; }
 
@@ -40,7 +42,8 @@ public:
     std::optional<int> Begin(int index) const {
         const bool scrolledOut = index >= fixed_ && index < first_;
         if (index < 0 || index >= axis_.Count() || scrolledOut) return std::nullopt;
-        return Place(index) < client_ ? std::optional(static_cast<int>(Place(index))) : std::nullopt;
+        const std::int64_t place = Place(index);
+        return place < client_ ? std::optional(static_cast<int>(place)) : std::nullopt;
     }
 
     // The pixel behind the last index on the window, which may lie beyond the window's edge; 0 if none is.
@@ -92,11 +95,13 @@ private:
         return axis_.Offset(index) - (index < fixed_ ? 0 : start_ - headers_);
     }
 
-    int FirstShown() const {
-        if (scroll_ == 0) return fixed_;
+    void FindFirstShown() {
+        first_ = axis_.IndexAt(headers_ + scroll_ - 1) + 1;
+        start_ = axis_.Offset(first_);
+        if (start_ < axis_.Total()) return;
         // Where the last index is longer than the page, the scroll position may lie within it: it is shown.
-        const int last = axis_.IndexAt(axis_.Total() - 1);
-        return std::min(axis_.IndexAt(headers_ + scroll_ - 1) + 1, last);
+        first_ = axis_.IndexAt(axis_.Total() - 1);
+        start_ = axis_.Offset(first_);
     }
 
     // The size of the nearest body index before First() that has one; 0 if none has.
@@ -120,6 +125,13 @@ Band ColumnBand(const FBGridData& grid, GridSize client, int scroll) {
     return Band(grid.Columns(), grid.GetFixedColCnt(), client.width, scroll);
 }
 
+std::optional<GridRect> RectOf(const FBGridData& grid, const Band& rows, const Band& columns, CCellID cell) {
+    const std::optional<int> top = rows.Begin(cell.row);
+    const std::optional<int> left = columns.Begin(cell.col);
+    if (!top || !left) return std::nullopt;
+    return GridRect{*left, *top, grid.GetColWidth(cell.col), grid.GetRowHeight(cell.row)};
+}
+
 }  // namespace
 
 CCellID FBGridGeometry::GetTopleftNonFixedCell() const {
@@ -139,18 +151,17 @@ CCellID FBGridGeometry::GetCellFromPt(GridPoint point, bool allowFixed) const {
 
 int FBGridGeometry::HitTest(GridPoint point, _tagGridHitTestInfo& info) const {
     info = {};
-    const CCellID cell = GetCellFromPt(point, true);
-    const std::optional<GridRect> rect = GetCellRect(cell.row, cell.col);
+    const Band rows = RowBand(grid_, client_, scrollY_);
+    const Band columns = ColumnBand(grid_, client_, scrollX_);
+    const CCellID cell{rows.IndexAt(point.y, true), columns.IndexAt(point.x, true)};
+    const std::optional<GridRect> rect = RectOf(grid_, rows, columns, cell);
     if (!rect) return 0;
     info = {cell.row, cell.col, *rect, 1, grid_.IsNonHeaderCell(cell.row, cell.col) ? 1 : 0};
     return 1;
 }
 
 std::optional<GridRect> FBGridGeometry::GetCellRect(int row, int col) const {
-    const std::optional<int> top = RowBand(grid_, client_, scrollY_).Begin(row);
-    const std::optional<int> left = ColumnBand(grid_, client_, scrollX_).Begin(col);
-    if (!top || !left) return std::nullopt;
-    return GridRect{*left, *top, grid_.GetColWidth(col), grid_.GetRowHeight(row)};
+    return RectOf(grid_, RowBand(grid_, client_, scrollY_), ColumnBand(grid_, client_, scrollX_), {row, col});
 }
 
 std::optional<GridRect> FBGridGeometry::GetRowRect(int row) const {

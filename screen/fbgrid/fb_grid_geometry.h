@@ -8,6 +8,7 @@
 
 #include <optional>
 
+#include "screen/fbgrid/fb_export.h"
 #include "screen/fbgrid/fb_grid_data.h"
 
 namespace jogeon {
@@ -51,7 +52,7 @@ struct ScrollRange {
 
 enum class ScrollStep { LineUp, LineDown, PageUp, PageDown, Top, Bottom };
 
-class FBGridGeometry {
+class FB_GRID_API FBGridGeometry {
 public:
     FBGridGeometry(const FBGridData& grid, GridSize client, int scrollX, int scrollY)
         : grid_(grid), client_(client), scrollX_(scrollX), scrollY_(scrollY) {}
