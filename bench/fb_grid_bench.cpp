@@ -255,13 +255,3 @@ BENCHMARK(KeyMove<Grid>)->Unit(benchmark::kMicrosecond)->Apply(OfRows);
 BENCHMARK(KeyMove<Items>)->Unit(benchmark::kMicrosecond)->Apply(OfRows);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    shared<Grid>.reset();  // before the application
-    shared<Items>.reset();
-    return 0;
-}

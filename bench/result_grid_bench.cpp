@@ -215,11 +215,3 @@ BENCHMARK(SidewaysScroll<Grid>)->Unit(benchmark::kMillisecond);
 BENCHMARK(SidewaysScroll<Items>)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

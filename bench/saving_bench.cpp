@@ -1,7 +1,6 @@
 // Saving as the user sees it: from the click to the answer dealt with, and from the opening of the screen to
 // the tree filled with 99 sets of twenty conditions, on the real module and service. Beside them what the
 // service alone takes for the same bytes, and the opening of the screen with nothing to download.
-#include <QApplication>
 #include <QTemporaryDir>
 #include <filesystem>
 
@@ -73,10 +72,3 @@ BENCHMARK(FromOpeningToFilledTree)->Arg(0)->Arg(kSets)->UseRealTime()->Unit(benc
 
 }  // namespace
 }  // namespace jogeon::terminal
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
