@@ -1,23 +1,17 @@
 #include "screen/shell/condition_screen_view.h"
 
 #include <QEvent>
-#include <QStandardItemModel>
 #include <algorithm>
+#include <utility>
 
-#include "screen/expression/expression_check.h"
-#include "screen/expression/expression_error_dialog.h"
-#include "screen/expression/expression_help_dialog.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/palette/colors_qt.h"
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/settings/settings_block.h"
-#include "screen/shell/control_icons_qt.h"
 #include "screen/shell/host_color_numbers.h"
-#include "screen/shell/saved_wiring_qt.h"
 #include "screen/shell/screen_keys_qt.h"
 #include "screen/shell/screen_splitter_widget.h"
 #include "screen/shell/screen_style_qt.h"
-#include "screen/target/target_dialog.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -25,15 +19,6 @@ namespace {
 
 // Second byte of the message by which the settings dialog hands its block back.
 constexpr std::uintptr_t kSettingsAgreed = 3;
-
-constexpr int kExpressionGrowth = 40;  // pixels that the enlarged expression box reaches further down
-
-// Controls that the enlarged expression box covers.
-constexpr int kButtonRow[] = {
-    control::kScope, control::kSearch,       control::kNextPage, control::kClearResults, control::kRealTime,
-    control::kChart, control::kInterestSave, control::kSettings, control::kExpandMode,   control::kCodeList};
-
-constexpr const char* kScopes[] = {"전체검색", "결과내검색", "결과외검색", "순차검색"};
 
 QString Shown(const std::string& cp949) {
     return QString::fromStdString(ToUtf8(cp949));
@@ -84,8 +69,6 @@ void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
     saved_.LinkTree(tree);
 }
 
-// --- controls and commands
-
 void ConditionScreen::PlaceControls() {
     form_.Place(panel_, control::kPanelArea, control::kPanelArea);
     panel_.hide();
@@ -97,120 +80,6 @@ void ConditionScreen::PlaceControls() {
     form_.OrderTabs();
     host::RegisterWindow(resultGrid_);
     host::RegisterWindow(form_.At(control::kCodeList));
-}
-
-// A sequential search can't be chosen while there is nothing to run it.
-void ConditionScreen::FillScopes() {
-    QComboBox& scopes = form_.ComboAt(control::kScope);
-    for (const char* scope : kScopes) scopes.addItem(QString::fromUtf8(scope));
-    qobject_cast<QStandardItemModel*>(scopes.model())
-        ->item(static_cast<int>(SearchScope::Sequential))
-        ->setEnabled(false);
-}
-
-void ConditionScreen::WireCommands() {
-    WireSavedCommands(form_, saved_);
-    form_.OnClick(control::kChangeTarget, [this] { ChangeTarget(); });
-    form_.OnClick(control::kSearch, [this] { search_.Start(); });
-    form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
-    form_.OnClick(control::kClearResults, [this] { ClearResultsCommand(); });
-    form_.OnClick(control::kBarsAgoSet,
-                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 0); });
-    form_.OnClick(control::kBarsAgoAdd,
-                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 1); });
-    form_.OnClick(control::kBarsAgoSubtract,
-                  [this] { editor_.ApplyBarsAgo(form_.NumberAt(control::kBarsAgoEdit), 2); });
-    form_.OnClick(control::kExpressionNot, [this] { expressionCommands_.OnExpressionNot(); });
-    form_.OnClick(control::kParenthesize, [this] { expressionCommands_.OnExpressionParenthesize(); });
-    form_.OnClick(control::kRemoveParenthesis,
-                  [this] { expressionCommands_.OnExpressionRemoveParenthesis(); });
-    form_.OnClick(control::kRemoveAll, [this] { expressionCommands_.OnExpressionRemoveAll(); });
-    form_.OnClick(control::kExpressionHelp, [this] { OnExpressionHelp(*services_.questions); });
-    form_.OnClick(control::kSaveConditionsAsSheet, [this] { SaveConditionsAsSheet(); });
-    form_.OnClick(control::kLeftPaneToggle, [this] { ToggleLeftPane(); });
-    form_.OnClick(control::kEnlargeExpression, [this] { ToggleExpressionHeight(); });
-    connect(&expressionEdit_, &ExpressionEdit::Edited, this, [this] { OnExpressionChanged(); });
-    connect(&resultTabs_, &QTabBar::currentChanged, this, [this](int tab) { results_.OnTabSelected(tab); });
-    connect(&form_.ComboAt(control::kScope), &QComboBox::activated, this, [this](int scope) {
-        if (scope != static_cast<int>(SearchScope::Sequential)) editor_.ResetSequence();
-    });
-}
-
-void ConditionScreen::WireReplies() {
-    channel_.SetHandler('T', [this](std::string_view reply) { results_.OnSearchReply(reply, false); });
-    channel_.SetHandler('N', [this](std::string_view reply) { results_.OnSearchReply(reply, true); });
-    saved_.WireReplies();
-}
-
-void ConditionScreen::OnPickIndex(const CIndexInfo& info, const FieldArray* fields) {
-    picked_ = std::make_unique<CIndexInfo>(info);
-    picked_->CopyFields(fields);
-    panel_.ShowIndex(true, picked_.get(), PanelMode::New);
-    panel_.show();
-}
-
-void ConditionScreen::OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) {
-    saved_.LoadCondition(std::move(saved));
-}
-
-bool ConditionScreen::CheckExpression(const std::string& text) {
-    const ExpressionCheck check = CheckExpressionText(text);
-    if (check.valid) return true;
-    ExpressionErrorDialog dialog(ExpressionErrorText(text, check.errorPosition));
-    services_.questions->Run("ExpressionErrorDialog", &dialog);
-    return false;
-}
-
-// By hand or by a button: the text is no more what was saved or stepped through.
-void ConditionScreen::OnExpressionChanged() {
-    editor_.ResetSequence();
-    editor_.SetDirty(true);
-}
-
-// Letters and descriptions of the list, with the expression as footer.
-void ConditionScreen::SaveConditionsAsSheet() {
-    conditionGrid_.Cells().SaveToExcelPartially(expressionEdit_.ExpressionText(), kColumnLetter,
-                                                kColumnContent);
-}
-
-void ConditionScreen::ToggleLeftPane() {
-    leftPaneClosed_ = !leftPaneClosed_;
-    host::SendMessage(splitterWindow_, host::kLeftPaneShown, leftPaneClosed_ ? 0 : 1, 0);
-    form_.ButtonAt(control::kLeftPaneToggle).setIcon(LeftPaneIcon(leftPaneClosed_));
-}
-
-void ConditionScreen::ToggleExpressionHeight() {
-    QAbstractButton& button = form_.ButtonAt(control::kEnlargeExpression);
-    const bool enlarge = button.text() == "▼";
-    button.setText(enlarge ? "▲" : "▼");
-    expressionEdit_.resize(expressionEdit_.width(),
-                           expressionEdit_.height() + (enlarge ? kExpressionGrowth : -kExpressionGrowth));
-    for (const int id : kButtonRow) form_.At(id).setVisible(!enlarge);
-    if (enlarge) expressionEdit_.raise();
-    expressionEdit_.setFocus();
-}
-
-void ConditionScreen::ChangeTarget() {
-    saved_.ChangeTarget(
-        [this](const SearchTarget& target) { return AskForTarget(services_, target, *this); });
-}
-
-void ConditionScreen::ClearResultsCommand() {
-    results_.Clear();
-    editor_.ResetSequence();
-}
-
-SearchInputs ConditionScreen::GatherSearchInputs() {
-    SearchInputs inputs;
-    inputs.window = handle_;
-    inputs.scope = static_cast<SearchScope>(std::max(0, form_.ComboAt(control::kScope).currentIndex()));
-    inputs.header = {userId_, saved_.CurrentSaved(),
-                     ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()), BuySelected(),
-                     saved_.Target()};
-    inputs.conditions = editor_.Conditions();
-    inputs.expressionText = expressionEdit_.ExpressionText();
-    inputs.checkExpression = [this](const std::string& text) { return CheckExpression(text); };
-    return inputs;
 }
 
 // --- what the host asks for
