@@ -45,13 +45,15 @@ void SavedConditions::ReorderCommand() {
     channel_.Send(BuildReorderRequest(mirror_.UserId(), version, order), kReorderKey);
 }
 
+// The file is renumbered as it stands, so it must be the one that the server has put in order.
 void SavedConditions::OnReorderReply(std::string_view data) {
     const StoreReply reply = ReadReorderReply(data);
     const StoreRequests::List answered = requests_.Take('C');
     if (answered.empty()) return;
     if (!reply.success) {
         TellFailure(Caption(), reply);
-    } else if (!IsCertain(answered) || !NamesAll(answered.front().order, mirror_.Sets())) {
+    } else if (!IsCertain(answered) || !mirror_.InStep() ||
+               !NamesAll(answered.front().order, mirror_.Sets())) {
         DownloadInstead(answered);
     } else {
         OnReordered(answered.front(), reply);

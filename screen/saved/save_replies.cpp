@@ -114,7 +114,9 @@ bool SavedConditions::IsCertain(const StoreRequests::List& answered) const {
 // The server has done something, but it can't be told what: the sets come anew from it.
 void SavedConditions::DownloadInstead(const StoreRequests::List& answered) {
     for (const StoreRequest& request : answered) {
-        if (request.set && currentSaved_ == request.set && !HasNumber()) TrackCurrent(nullptr);
+        if (!request.set || currentSaved_ != request.set || HasNumber()) continue;
+        TrackCurrent(nullptr);
+        view_.ShowName("");
     }
     download_.Start();
 }

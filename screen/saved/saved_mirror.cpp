@@ -17,6 +17,10 @@ void SavedMirror::SetVersion(std::string_view version) {
     fileVersion_ = TrimRight(version);
 }
 
+bool SavedMirror::InStep() const {
+    return ReadVersion(file_) == fileVersion_;
+}
+
 bool SavedMirror::Put(const CSavedIndexInfo& set, bool keepSection, std::string_view version) {
     const bool written = WriteCondition(set, keepSection, file_, VersionToStamp(version));
     SetVersion(version);
@@ -54,8 +58,7 @@ void SavedMirror::KeepCopy() const {
 // A file that has fallen behind, because an earlier write failed or someone else changed it, stays behind:
 // with the new version on it, it would pass for complete.
 std::string SavedMirror::VersionToStamp(std::string_view version) const {
-    std::string onDisk = ReadVersion(file_);
-    return onDisk == fileVersion_ ? std::string(TrimRight(version)) : onDisk;
+    return InStep() ? std::string(TrimRight(version)) : ReadVersion(file_);
 }
 
 }  // namespace jogeon

@@ -25,6 +25,9 @@ public:
     const std::string& Version() const { return fileVersion_; }
     void SetVersion(std::string_view version);  // the file stays as it is
 
+    // Whether the file holds what Version() stands for. It doesn't after a write that failed.
+    bool InStep() const;
+
     // The sets that the file lists now.
     std::vector<SavedSetName> Sets() const { return ListSavedSets(file_); }
 

@@ -393,6 +393,21 @@ TEST_F(SavedConditionsTest, AnImportAsksBeforeItOverwritesAndAddsItsNodeWhereThe
     EXPECT_EQ("40", Number());
 }
 
+TEST_F(SavedConditionsTest, AFileThatFellBehindIsDownloadedAnewAndNotRenumbered) {
+    Load(1);
+    saved_.SaveCommand();
+    {
+        const FileFault fault(FileStep::Rename);
+        screen_.Answer('E', true, "01", "000.002");
+    }
+    const std::string before = screen_.OnDisk();
+    screen_.dialogs.order = [](std::size_t) { return std::vector<std::size_t>{1, 0, 2}; };
+    saved_.ReorderCommand();
+    screen_.Reply("C1        000.003");
+    EXPECT_EQ(screen_.LastPayload()[0], 'V');
+    EXPECT_EQ(screen_.OnDisk(), before);
+}
+
 // A failed write at any step leaves the old file whole, loses nothing on the screen, and never makes the file
 // claim a version whose sets it doesn't hold.
 TEST_F(SavedConditionsTest, FilesThatCannotBeWrittenStayWholeAndBehind) {
