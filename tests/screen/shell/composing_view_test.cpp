@@ -4,9 +4,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWheelEvent>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -172,6 +174,25 @@ TEST_F(ComposingTest, TabGoesThroughTheScreenRowByRow) {
         backwards += places[i].y() < places[i - 1].y() - 4 ? 1 : 0;
     EXPECT_LE(backwards, 2) << "only the columns of the panel's fields and its buttons go up again";
     EXPECT_EQ(&host.Control<QWidget>(21104), stop);
+}
+
+// No window is active here, so that the keys themselves don't arrive: what stands behind them is tried.
+TEST_F(ComposingTest, KeysOfTheScreenDontCollideAndDoWhatTheyStandFor) {
+    std::map<QKeySequence, QShortcut*> keys;
+    for (QShortcut* shortcut : host.frame.findChildren<QShortcut*>()) {
+        EXPECT_TRUE(keys.emplace(shortcut->key(), shortcut).second)
+            << shortcut->key().toString().toStdString();
+    }
+    Pick("주가이평돌파");
+    Click(31050);
+    const std::size_t before = host.communication.sent.size();
+    emit keys.at(QKeySequence("F5"))->activated();
+    EXPECT_GT(host.communication.sent.size(), before);
+    emit keys.at(QKeySequence("Shift+F5"))->activated();  // its button is disabled
+    EXPECT_EQ('T', host.communication.LastPayload()[0]);
+    host.questions.answers = {host::Answer::No};
+    emit keys.at(QKeySequence("Ctrl+N"))->activated();
+    EXPECT_EQ("", Box().ExpressionText());
 }
 
 TEST_F(ComposingTest, GridAndListStayTogetherUnderTheMouse) {
