@@ -14,6 +14,12 @@ constexpr char kLastDataItem[] = "_LeftPane";
 // The start-up query's block: its second 16-bit word says whether last data will be restored.
 constexpr std::size_t kRestoreWordOffset = 2;
 
+constexpr char kTagSeparator = 0x1f;
+
+const char* TextAt(std::intptr_t address) {
+    return reinterpret_cast<const char*>(address);
+}
+
 QSize UnpackSize(std::intptr_t packed) {
     return {static_cast<int>((packed >> 16) & 0xffff), static_cast<int>(packed & 0xffff)};
 }
@@ -54,17 +60,43 @@ bool HostFrame::event(QEvent* event) {
         if (module_ && event->type() == QEvent::ApplicationPaletteChange) module_->SetColorChange(screen_);
         return QWidget::event(event);
     }
-    enum { kResize = 0, kMinimum = 1 };  // 2, the maximum, is advice: results may have more room
-    if (message->number == host::kHostQuery) {
-        const std::uint16_t willRestore = 1;
-        std::memcpy(reinterpret_cast<char*>(message->lParam) + kRestoreWordOffset, &willRestore,
-                    sizeof willRestore);
-    } else if (message->number == host::kScreenSize && message->wParam == kMinimum) {
-        setMinimumSize(UnpackSize(message->lParam));
-    } else if (message->number == host::kScreenSize && message->wParam == kResize) {
-        emit SizeAsked(UnpackSize(message->lParam));
-    }
+    OnMessage(*message);
     return true;
+}
+
+void HostFrame::OnMessage(const host::MessageEvent& message) {
+    enum { kResize = 0, kMinimum = 1 };  // 2, the maximum, is advice: results may have more room
+    switch (message.number) {
+        case host::kHostQuery: {
+            const std::uint16_t willRestore = 1;
+            std::memcpy(reinterpret_cast<char*>(message.lParam) + kRestoreWordOffset, &willRestore,
+                        sizeof willRestore);
+            return;
+        }
+        case host::kScreenSize:
+            if (message.wParam == kMinimum) setMinimumSize(UnpackSize(message.lParam));
+            if (message.wParam == kResize) emit SizeAsked(UnpackSize(message.lParam));
+            return;
+        case host::kOpenScreen:
+        case host::kOpenScreenLinked:
+            emit ScreenAsked(QString::fromLatin1(TextAt(message.lParam)),
+                             message.number == host::kOpenScreenLinked);
+            return;
+        case host::kTagChanged:
+            TellTag(TextAt(message.lParam));
+            return;
+        case host::kResultDoubleClicked:
+            emit ResultChosen();
+            return;
+        default:
+            return;
+    }
+}
+
+// A notify text is "0", main key and tag, with a separator between them.
+void HostFrame::TellTag(const char* notify) {
+    const QList<QByteArray> pieces = QByteArray(notify).split(kTagSeparator);
+    if (pieces.size() == 3) emit TagChanged(pieces[1].toStdString(), pieces[2].toStdString());
 }
 
 }  // namespace jogeon::terminal

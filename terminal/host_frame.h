@@ -1,12 +1,15 @@
 // The place of one screen in the main window: it loads the screen into itself and does a host frame's part.
 //
-// It answers the screen's start-up query, obeys the sizes the screen asks for, tells the screen of another
-// main window or other colours, and restores and saves the screen's last data around a session.
+// It answers the screen's start-up query, obeys the sizes the screen asks for, passes on what the screen has
+// for others, tells the screen of another main window or other colours, and restores and saves the screen's
+// last data around a session.
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 #include "screen/host/services.h"
+#include "screen/host/window_messages_qt.h"
 #include "terminal/screen_module.h"
 
 namespace jogeon::terminal {
@@ -30,12 +33,24 @@ signals:
     // The screen needs this client size; it must be granted before this returns.
     void SizeAsked(QSize size);
 
+    // The screen asks for another one to open, with the stock that the shared tags name if `linked`.
+    void ScreenAsked(const QString& number, bool linked);
+
+    // The screen has changed a shared tag. Both are CP949 bytes.
+    void TagChanged(const std::string& mainKey, const std::string& tag);
+
+    // A row of results was double-clicked.
+    void ResultChosen();
+
 protected:
     bool event(QEvent* event) override;
 
 private:
-    const host::WindowHandle handle_;
     host::WindowHandle ScreenHandle() const;
+    void OnMessage(const host::MessageEvent& message);
+    void TellTag(const char* notify);
+
+    const host::WindowHandle handle_;
 
     const ScreenModule* module_ = nullptr;
     void* frame_ = nullptr;

@@ -115,6 +115,85 @@ public:
     virtual std::optional<std::filesystem::path> AskSavePath(const FileQuestion& question) = 0;
 };
 
+// A column of the result grid as the settings dialog offers it.
+struct GridColumnChoice {
+    std::string fid;
+    std::string name;
+    int width = 0;  // pixels
+    bool shown = true;
+
+    friend bool operator==(const GridColumnChoice&, const GridColumnChoice&) = default;
+};
+
+// The result grid as the settings dialog works on it.
+class GridColumns {
+public:
+    // The columns that a search can ask for, from left to right as the grid has them.
+    virtual std::vector<GridColumnChoice> Choices() const = 0;
+
+    // Takes the same columns back, in another order, with other widths, shown or not.
+    virtual void Choose(const std::vector<GridColumnChoice>& columns) = 0;
+
+protected:
+    ~GridColumns() = default;
+};
+
+// The dialog over the screen's settings. It reads and writes the user's settings file itself, and asks the
+// screen for the settings block with kSettingsFill before it opens and hands it back with kSettingsTaken.
+class SettingsDialog {
+public:
+    static constexpr int kReloadGrid = 0x10;
+
+    virtual ~SettingsDialog() = default;
+
+    // What was changed: 0 for nothing, else flags, kReloadGrid among them when the grid's columns were chosen
+    // anew. `view` is the screen.
+    virtual int Run(WindowHandle view, GridColumns& grid, int) = 0;
+};
+
+// Interest groups of the user.
+class InterestGroups {
+public:
+    virtual ~InterestGroups() = default;
+
+    // Lets the user save these six-byte codes in a group of his. `window` is the screen, whose settings block
+    // says how (kSettingsFill), `mainWindow` the host's.
+    virtual int SaveInterest(WindowHandle window, const std::vector<std::string>& codes,
+                             WindowHandle mainWindow, int) = 0;
+};
+
+// What a cell of a sheet is, beside its text.
+enum class SheetFormat { Text, Integer, Decimal, Percent };
+
+struct SheetColumn {
+    std::string title;
+    SheetFormat format = SheetFormat::Text;
+};
+
+// A table as it goes to a sheet: cells as plain text, a number with digits, sign and point alone. A number
+// that is none is written as the text it is.
+struct Sheet {
+    std::string name;
+    std::vector<SheetColumn> columns;
+    std::vector<std::vector<std::string>> rows;  // one cell for each column
+};
+
+// A line of the sheet that says where the table comes from.
+struct SheetNote {
+    std::string label;
+    std::string text;
+};
+
+// Sheets for a spreadsheet program.
+class SheetExport {
+public:
+    virtual ~SheetExport() = default;
+
+    // Asks where to, and writes the sheet there, with a second one of the notes, to which the host adds
+    // market, date and time. What fails is told the user here.
+    virtual void Save(const Sheet& sheet, const std::vector<SheetNote>& notes) = 0;
+};
+
 // Who gets the ticks of its timers.
 class TimerSink {
 public:
@@ -148,6 +227,9 @@ struct Services {
     ColorMap* colors = nullptr;
     Questions* questions = nullptr;
     Clock* clock = nullptr;
+    SettingsDialog* settings = nullptr;
+    InterestGroups* interests = nullptr;
+    SheetExport* sheets = nullptr;
 };
 
 // Installs the services for screens that are created from now on, and hands them out.

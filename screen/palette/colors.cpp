@@ -1,94 +1,101 @@
 #include "screen/palette/colors.h"
 
-namespace jogeon {
+#include <cstddef>
+#include <iterator>
 
-// A switch rather than an array: the compiler then names a colour that has been forgotten.
-ColorNumber ColorOf(Color color) {
-    switch (color) {
-        case Color::NoticeBack:
-            return 0xf9f1e9;
-        case Color::NoticeText:
-            return 0x4a3c2e;
-        case Color::NoticeEdge:
-            return 0xc8a98b;
-        case Color::GridText:
-            return 0x202020;
-        case Color::GridRise:
-            return 0x2424d0;
-        case Color::GridFall:
-            return 0xc8541a;
-        case Color::GridOddRow:
-            return 0xffffff;
-        case Color::GridEvenRow:
-            return 0xfaf6f3;
-        case Color::GridSelectedRow:
-            return 0xf7e3cc;
-        case Color::GridLine:
-            return 0xe8e2dc;
-        case Color::GridHeaderBack:
-            return 0xf2ece6;
-        case Color::GridHeaderText:
-            return 0x4b3d32;
-        case Color::GridHeaderLine:
-            return 0xd0c6bc;
-        case Color::TabBack:
-            return 0xeee8e2;
-        case Color::TabText:
-            return 0x6e6056;
-        case Color::TabSelectedBack:
-            return 0xffffff;
-        case Color::TabSelectedText:
-            return 0x8f4a14;
-        case Color::TabEdge:
-            return 0xc8beb4;
-        case Color::ControlFace:
-            return 0xffffff;
-        case Color::ControlEdge:
-            return 0xc8beb4;
-        case Color::ControlText:
-            return 0x33291f;
-        case Color::ControlFaintText:
-            return 0xa89e94;
-        case Color::Accent:
-            return 0x8f4a14;
-        case Color::AccentText:
-            return 0xffffff;
-        case Color::ExpressionBack:
-            return 0xe6f0f0;
-        case Color::FBFocusedRow:
-            return 0xe7d7c6;
-        case Color::FBMovingRow:
-            return 0xd6fff1;
-        case Color::FBText:
-            return 0x000000;
-        case Color::FBCheckFrame:
-            return 0x000000;
-        case Color::FBCheckBack:
-            return 0xffffff;
-        case Color::FBCheckTick:
-            return 0x000000;
-        case Color::FBCheckDisabledBack:
-            return 0xc0c0c0;
-        case Color::FBCheckDisabledLight:
-            return 0xffffff;
-        case Color::FBCheckDisabledShade:
-            return 0x808080;
-        case Color::FBDisabledArrow:
-            return 0xc0c0c0;
-        case Color::ExpressionOperator:
-            return 0x2d2dd0;
-        case Color::ExpressionLetter:
-            return 0x000000;
-        case Color::ExpressionBracket:
-            return 0xd02d2d;
-        case Color::TreeFolder:
-            return 0x6cc4ec;
-        case Color::TreeFolderFront:
-            return 0x9ddcf7;
-        case Color::TreeFolderEdge:
-            return 0x2f86b4;
+namespace jogeon {
+namespace {
+
+struct Entry {
+    Color color;
+    ColorNumber light;
+    ColorNumber dark;
+};
+
+// In the order of Color.
+constexpr Entry kTable[] = {
+    {Color::NoticeBack, 0xf9f1e9, 0x40332b},
+    {Color::NoticeText, 0x4a3c2e, 0xeee6df},
+    {Color::NoticeEdge, 0xc8a98b, 0x78604d},
+    {Color::GridText, 0x202020, 0xdcdcdc},
+    {Color::GridRise, 0x2424d0, 0x6b6bff},
+    {Color::GridFall, 0xc8541a, 0xffa86a},
+    {Color::GridOddRow, 0xffffff, 0x26221f},
+    {Color::GridEvenRow, 0xfaf6f3, 0x2d2824},
+    {Color::GridSelectedRow, 0xf7e3cc, 0x664a2f},
+    {Color::GridLine, 0xe8e2dc, 0x3f3934},
+    {Color::GridHeaderBack, 0xf2ece6, 0x36302b},
+    {Color::GridHeaderText, 0x4b3d32, 0xd4cdc6},
+    {Color::GridHeaderLine, 0xd0c6bc, 0x4f4740},
+    {Color::TabBack, 0xeee8e2, 0x2e2925},
+    {Color::TabText, 0x6e6056, 0xada39a},
+    {Color::TabSelectedBack, 0xffffff, 0x26221f},
+    {Color::TabSelectedText, 0x8f4a14, 0xf0b87d},
+    {Color::TabEdge, 0xc8beb4, 0x544c45},
+    {Color::ControlFace, 0xffffff, 0x332e2a},
+    {Color::ControlEdge, 0xc8beb4, 0x59514a},
+    {Color::ControlText, 0x33291f, 0xe8e5e2},
+    {Color::ControlFaintText, 0xa89e94, 0x8c837b},
+    {Color::Accent, 0x8f4a14, 0xd48b3d},
+    {Color::AccentText, 0xffffff, 0xffffff},
+    {Color::ExpressionBack, 0xe6f0f0, 0x252d2a},
+    {Color::FBFocusedRow, 0xe7d7c6, 0x664a2f},
+    {Color::FBMovingRow, 0xd6fff1, 0x1e4a3a},
+    {Color::FBText, 0x000000, 0xe8e5e2},
+    {Color::FBCheckFrame, 0x000000, 0xada39a},
+    {Color::FBCheckBack, 0xffffff, 0x26221f},
+    {Color::FBCheckTick, 0x000000, 0xe8e5e2},
+    {Color::FBCheckDisabledBack, 0xc0c0c0, 0x453f3a},
+    {Color::FBCheckDisabledLight, 0xffffff, 0x645c55},
+    {Color::FBCheckDisabledShade, 0x808080, 0x8c837b},
+    {Color::FBDisabledArrow, 0xc0c0c0, 0x68605a},
+    {Color::ExpressionOperator, 0x2d2dd0, 0x7b7bff},
+    {Color::ExpressionLetter, 0x000000, 0xe8e5e2},
+    {Color::ExpressionBracket, 0xd02d2d, 0xffa08a},
+    {Color::TreeFolder, 0x6cc4ec, 0x3ca8d8},
+    {Color::TreeFolderFront, 0x9ddcf7, 0x60c0e8},
+    {Color::TreeFolderEdge, 0x2f86b4, 0x206a8a},
+    {Color::ScreenBack, 0xf4f1ef, 0x221e1b},
+    {Color::SequenceMark, 0xc0c0c0, 0x68605a},
+    {Color::ChartBack, 0xffffff, 0x1c1916},
+    {Color::ChartGrid, 0xeeeae6, 0x352f2a},
+    {Color::ChartText, 0x5e544b, 0xbdb3aa},
+    {Color::ChartRise, 0x2424d0, 0x6b6bff},
+    {Color::ChartFall, 0xc8541a, 0xffa86a},
+    {Color::ChartVolume, 0xc8b39f, 0x78644f},
+    {Color::ChartCrosshair, 0x83786e, 0xada39a},
+    {Color::ChartMark, 0x008ae0, 0x4db8ff},
+    {Color::ChartLine1, 0x9b56e0, 0xc48fff},
+    {Color::ChartLine2, 0xd07f2f, 0xffb76a},
+    {Color::ChartLine3, 0x1f9ae3, 0x66c7ff},
+    {Color::ChartLine4, 0x5d9d3a, 0x94d36f},
+    {Color::ChartLine5, 0xc65b7d, 0xff9cb7},
+    {Color::ChartBand, 0xa08f7f, 0xaa9a8a},
+};
+
+constexpr bool InOrder() {
+    for (std::size_t i = 0; i < std::size(kTable); ++i) {
+        if (static_cast<std::size_t>(kTable[i].color) != i) return false;
     }
-    return 0;
+    return std::size(kTable) == kColors;
+}
+static_assert(InOrder());
+
+Theme theme = Theme::Light;
+
+}  // namespace
+
+void SetTheme(Theme chosen) {
+    theme = chosen;
+}
+
+Theme CurrentTheme() {
+    return theme;
+}
+
+ColorNumber ColorOf(Color color) {
+    const Entry& entry = kTable[static_cast<std::size_t>(color)];
+    return theme == Theme::Dark ? entry.dark : entry.light;
 }
 
 }  // namespace jogeon

@@ -1,9 +1,10 @@
-// The screen's own colours, all in one table.
+// Our own colours, light and dark, all in one table.
 //
-// Whoever paints asks for a colour by what it is for, so that another table can take the light one's place.
-// What the desktop decides (window, highlight) comes from the widget's palette instead.
+// Whoever paints asks for a colour by what it is for, at the time he paints. What the desktop decides
+// (window, highlight) comes from the widget's palette instead.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace jogeon {
@@ -53,7 +54,31 @@ enum class Color {
     TreeFolder,
     TreeFolderFront,
     TreeFolderEdge,
+    ScreenBack,    // behind the controls of a screen
+    SequenceMark,  // the letter of a condition that the sequential search has reached
+    ChartBack,
+    ChartGrid,
+    ChartText,
+    ChartRise,
+    ChartFall,
+    ChartVolume,
+    ChartCrosshair,
+    ChartMark,  // bars on which a condition set was true
+    ChartLine1,
+    ChartLine2,
+    ChartLine3,
+    ChartLine4,
+    ChartLine5,
+    ChartBand,
 };
+inline constexpr std::size_t kColors = static_cast<std::size_t>(Color::ChartBand) + 1;
+
+enum class Theme { Light, Dark };
+
+// The theme that ColorOf answers for, light at first. Of the program or module that calls it: each has its
+// own.
+void SetTheme(Theme theme);
+Theme CurrentTheme();
 
 ColorNumber ColorOf(Color color);
 

@@ -1,0 +1,35 @@
+// What a screen of the terminal's own works with, and how it works apart from the user interface.
+//
+// The references outlive the screens. A service of another process may take seconds to answer or throw: ask
+// it through InBackground, whose answer comes back to the screen's thread.
+#pragma once
+
+#include <QFuture>
+#include <QThreadPool>
+#include <QtConcurrent/QtConcurrentRun>
+#include <string>
+#include <utility>
+
+#include "screen/host/services.h"
+#include "server/service/service.h"
+#include "terminal/host/links.h"
+
+namespace jogeon::terminal {
+
+struct Workplace {
+    std::string user;
+    service::Service& service;
+    Links& links;
+    host::Questions& questions;
+    QThreadPool& workers;
+};
+
+// Runs `work` on a thread of the workplace and gives the result to `done` on the thread of `receiver`, if
+// that lives by then. `work` must touch nothing of the screen; what it throws is lost, so that it catches
+// what it can meet.
+template <typename Work, typename Done>
+void InBackground(const Workplace& workplace, QObject& receiver, Work work, Done done) {
+    QtConcurrent::run(&workplace.workers, std::move(work)).then(&receiver, std::move(done));
+}
+
+}  // namespace jogeon::terminal
