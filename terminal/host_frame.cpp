@@ -1,8 +1,11 @@
 #include "terminal/host_frame.h"
 
+#include <algorithm>
 #include <cstring>
 
+#include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
+#include "screen/settings/screen_settings.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -14,7 +17,16 @@ constexpr char kLastDataItem[] = "_LeftPane";
 // The start-up query's block: its second 16-bit word says whether last data will be restored.
 constexpr std::size_t kRestoreWordOffset = 2;
 
+// What a size message is about.
+enum SizeKind : std::uintptr_t { kResize = 0, kMinimum = 1, kMaximum = 2 };
+
 constexpr char kTagSeparator = 0x1f;
+
+// What screen 0150 needs before it has asked for a size, with its left pane at its first width.
+constexpr int kFirstPane = 176;
+constexpr QSize kFirstSize(kFirstPane + 585, 548);
+constexpr QSize kFirstMaximum(764, 548);
+constexpr int kLeastPane = 30;  // a narrower one isn't shown
 
 const char* TextAt(std::intptr_t address) {
     return reinterpret_cast<const char*>(address);
@@ -27,7 +39,13 @@ QSize UnpackSize(std::intptr_t packed) {
 }  // namespace
 
 HostFrame::HostFrame(QWidget* parent)
-    : QWidget(parent), handle_(host::RegisterWindow(*this, host::WindowKind::HostFrame)) {}
+    : QWidget(parent),
+      handle_(host::RegisterWindow(*this, host::WindowKind::HostFrame)),
+      wanted_(kFirstSize) {
+    setMinimumSize(kFirstSize);
+    setMaximumSize(kFirstMaximum);
+    resize(kFirstSize);
+}
 
 HostFrame::~HostFrame() {
     Close();
@@ -36,8 +54,23 @@ HostFrame::~HostFrame() {
 bool HostFrame::Open(const ScreenModule& module) {
     if (module.CreateScreen(&frame_, &screen_, this, "0150", 0, "", handle_) != kScreenCreated) return false;
     module_ = &module;
-    module.SetLastData(screen_, kLastDataScreen, kLastDataItem);
+    RestoreLastData();
     return true;
+}
+
+// A screen whose left pane gets another width asks for no other size then, though it needs one.
+void HostFrame::RestoreLastData() {
+    const QSize before = wanted_;
+    module_->SetLastData(screen_, kLastDataScreen, kLastDataItem);
+    host::LinkStore& links = *host::Installed().links;
+    const int kept =
+        SettingsFile(links, GetUserId(links)).LeftPaneWidth(std::string(kLastDataScreen) + kLastDataItem);
+    const int extra = (kept < kLeastPane ? 0 : kept) - kFirstPane;
+    if (wanted_ != before || extra == 0) return;
+    const QSize needed = wanted_ + QSize(extra, 0);
+    OnSizeMessage(kMinimum, needed);
+    OnSizeMessage(kMaximum, needed.expandedTo(kFirstMaximum));
+    OnSizeMessage(kResize, needed);
 }
 
 void HostFrame::Close() {
@@ -65,7 +98,6 @@ bool HostFrame::event(QEvent* event) {
 }
 
 void HostFrame::OnMessage(const host::MessageEvent& message) {
-    enum { kResize = 0, kMinimum = 1 };  // 2, the maximum, is advice: results may have more room
     switch (message.number) {
         case host::kHostQuery: {
             const std::uint16_t willRestore = 1;
@@ -74,8 +106,7 @@ void HostFrame::OnMessage(const host::MessageEvent& message) {
             return;
         }
         case host::kScreenSize:
-            if (message.wParam == kMinimum) setMinimumSize(UnpackSize(message.lParam));
-            if (message.wParam == kResize) emit SizeAsked(UnpackSize(message.lParam));
+            OnSizeMessage(message.wParam, UnpackSize(message.lParam));
             return;
         case host::kOpenScreen:
         case host::kOpenScreenLinked:
@@ -91,6 +122,14 @@ void HostFrame::OnMessage(const host::MessageEvent& message) {
         default:
             return;
     }
+}
+
+void HostFrame::OnSizeMessage(std::uintptr_t kind, QSize size) {
+    if (kind == kMinimum) setMinimumSize(size);
+    if (kind == kMaximum) setMaximumSize(size);
+    if (kind != kResize) return;
+    wanted_ = size;
+    emit SizeAsked(size);
 }
 
 // A notify text is "0", main key and tag, with a separator between them.

@@ -29,6 +29,9 @@ public:
 
     host::WindowHandle Handle() const { return handle_; }
 
+    // The size that the screen has asked for last. The frame's minimum and maximum size are the screen's too.
+    QSize Wanted() const { return wanted_; }
+
 signals:
     // The screen needs this client size; it must be granted before this returns.
     void SizeAsked(QSize size);
@@ -48,10 +51,13 @@ protected:
 private:
     host::WindowHandle ScreenHandle() const;
     void OnMessage(const host::MessageEvent& message);
+    void OnSizeMessage(std::uintptr_t kind, QSize size);
     void TellTag(const char* notify);
+    void RestoreLastData();
 
     const host::WindowHandle handle_;
 
+    QSize wanted_;
     const ScreenModule* module_ = nullptr;
     void* frame_ = nullptr;
     void* screen_ = nullptr;

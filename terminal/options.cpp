@@ -6,6 +6,8 @@
 #include <cstdio>
 
 #include "server/remote/loopback_address.h"
+#include "terminal/language.h"
+#include "terminal/theme/theme_switch.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -44,6 +46,8 @@ QString Fault(const QCommandLineParser& parser, const Options& options) {
         return "--market " + options.market +
                ": no such file; make one with: jogeond import --out FILE INPUT...";
     }
+    if (!options.lang.isEmpty() && !LanguageOf(options.lang)) return "--lang takes ko or en";
+    if (!options.theme.isEmpty() && !ThemeChoiceOf(options.theme)) return "--theme takes auto, light or dark";
     return ServerFault(options);
 }
 
@@ -64,11 +68,14 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
         "server", "Use the service at this address, which jogeond serve offers, not one of this process.",
         "ADDRESS");
     const QCommandLineOption open("open", "Open this condition set at the start.", "SET");
+    const QCommandLineOption lang("lang", "Show the terminal's own texts in Korean or English: ko or en.",
+                                  "LANGUAGE");
+    const QCommandLineOption theme("theme", "Light or dark for this run: auto, light or dark.", "THEME");
     const QCommandLineOption trace("trace", "Print each request and reply as it goes.");
     const QCommandLineOption demonstrate(
         "demonstrate", "Open a set, search, write a picture of the screen, print the first rows, end.",
         "PICTURE");
-    parser.addOptions({user, home, market, store, server, open, trace, demonstrate});
+    parser.addOptions({user, home, market, store, server, open, lang, theme, trace, demonstrate});
 
     *status = kWrongUse;
     if (!parser.parse(arguments)) {
@@ -81,7 +88,8 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
         return std::nullopt;
     }
     Options options{parser.value(user),   parser.value(home), parser.value(market),      parser.value(store),
-                    parser.value(server), parser.value(open), parser.value(demonstrate), parser.isSet(trace)};
+                    parser.value(server), parser.value(open), parser.value(demonstrate), parser.isSet(trace),
+                    parser.value(lang),   parser.value(theme)};
     if (const QString fault = Fault(parser, options); !fault.isEmpty()) {
         Print(stderr, "jogeon: " + fault + "\n");
         return std::nullopt;

@@ -16,6 +16,8 @@ struct Options {
     QString openSet;      // a condition set to open at the start
     QString demonstrate;  // where to write the picture; empty: an ordinary start
     bool trace = false;
+    QString lang;   // "ko" or "en"; empty: the user's choice
+    QString theme;  // "auto", "light" or "dark" for this run; empty: the user's choice
 };
 
 // Reads the arguments, the program's name first. With nothing to start (help, version, a wrong option) it

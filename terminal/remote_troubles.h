@@ -1,7 +1,7 @@
-// What goes wrong between this terminal and its server, told to the trader.
+// What goes wrong between this terminal and its server, and that it goes well again, told to the trader.
 //
-// Every trouble is a line on standard error, and a signal with a sentence for the window. It may be told on
-// any thread; the signal reaches a window on the window's own.
+// Every trouble is a line on standard error, and a signal with a sentence for the window. All may be told on
+// any thread; the signals reach a window on the window's own.
 #pragma once
 
 #include <QObject>
@@ -16,9 +16,12 @@ class RemoteTroubles : public QObject {
 
 public:
     void Tell(const remote::Trouble& trouble);
+    void TellRecovery();
 
 signals:
     void Told(const QString& sentence);
+    void Lost();       // the server can't be reached or understood
+    void Recovered();  // it answers again
 };
 
 }  // namespace jogeon::terminal

@@ -1,10 +1,12 @@
-// The terminal as a whole: home folder, service, host services, and the window with the screen.
+// The terminal as a whole: home folder, service, host services, and the window with the screens.
 //
 // Building one makes everything ready and installs the host services; it throws one line for the user when
-// something is missing.
+// something is missing. Unless it demonstrates, it starts as the user left it.
 #pragma once
 
+#include <QThreadPool>
 #include <memory>
+#include <vector>
 
 #include "terminal/host/clock.h"
 #include "terminal/host/code_lists.h"
@@ -12,37 +14,61 @@
 #include "terminal/host/host_colors.h"
 #include "terminal/host/links.h"
 #include "terminal/host/questions.h"
+#include "terminal/language.h"
 #include "terminal/main_window.h"
 #include "terminal/options.h"
 #include "terminal/remote_troubles.h"
+#include "terminal/screens/screen_desk.h"
+#include "terminal/service_watch.h"
+#include "terminal/theme/theme_switch.h"
+#include "terminal/user_state.h"
+#include "terminal/window/main_menu.h"
 
 namespace jogeon::terminal {
 
 class Terminal {
 public:
-    explicit Terminal(const Options& options);
+    // `questions` answers in the user's place and outlives the terminal; without it he is asked by boxes.
+    explicit Terminal(const Options& options, std::vector<ScreenKind> screens = OwnScreens(),
+                      host::Questions* questions = nullptr);
     ~Terminal();
 
     MainWindow& Window() { return window_; }
+    ScreenDesk& Desk() { return *desk_; }
 
     // Whether the service has answered all that the screen asked.
     bool Idle() const { return communication_.Idle(); }
 
     // Where the screen's published tags and codes are.
-    const Links& SharedLinks() const { return links_; }
+    Links& SharedLinks() { return links_; }
 
 private:
+    void InstallServices();
+    void WireTroubles();
+    void WireMenu();
+    void WireState();
+    void RestoreWindow();
+
     const HomeFolder home_;
+    QtClock clock_;
+    UserState state_;
+    const LanguageInUse language_;
+    ThemeSwitch theme_;
     RemoteTroubles troubles_;
     const std::unique_ptr<service::Service> service_;
     ServiceCommunication communication_;
     Links links_;
     ServiceCodeLists codeLists_;
     HostColors colors_;
-    QtClock clock_;
     const ScreenModule module_;
     MainWindow window_;
-    std::unique_ptr<host::Questions> questions_;
+    const std::unique_ptr<host::Questions> ownQuestions_;
+    host::Questions& questions_;
+    QThreadPool workers_;
+    const Workplace workplace_;
+    std::unique_ptr<ScreenDesk> desk_;
+    MainMenu menu_;
+    ServiceWatch watch_;
 };
 
 }  // namespace jogeon::terminal

@@ -73,6 +73,24 @@ bool RemoteService::Connection::InTrouble() const {
     return Clock::now() < lastTrouble_.load() + kTroubleLasts;
 }
 
+void RemoteService::Connection::GiveUpCalls() {
+    const std::lock_guard lock(mutex_);
+    givenUp_ = true;
+    for (grpc::ClientContext* context : underWay_) context->TryCancel();
+}
+
+RemoteService::Connection::UnderWay::UnderWay(Connection& connection, grpc::ClientContext& context)
+    : connection_(connection), context_(context) {
+    const std::lock_guard lock(connection_.mutex_);
+    connection_.underWay_.insert(&context_);
+    if (connection_.givenUp_) context_.TryCancel();
+}
+
+RemoteService::Connection::UnderWay::~UnderWay() {
+    const std::lock_guard lock(connection_.mutex_);
+    connection_.underWay_.erase(&context_);
+}
+
 void RemoteService::Connection::Prepare(grpc::ClientContext& context, milliseconds deadline) const {
     context.set_deadline(std::chrono::system_clock::now() + deadline);
     context.AddMetadata(kProtocolEntry, std::to_string(settings.protocol));
@@ -80,7 +98,8 @@ void RemoteService::Connection::Prepare(grpc::ClientContext& context, millisecon
 
 std::optional<Trouble> RemoteService::Connection::Judge(const grpc::Status& status, milliseconds deadline) {
     if (status.ok()) {
-        lastTrouble_ = Clock::time_point::min();
+        const bool wasInTrouble = lastTrouble_.exchange(Clock::time_point::min()) != Clock::time_point::min();
+        if (wasInTrouble && settings.recovered) settings.recovered();
         return std::nullopt;
     }
     lastTrouble_ = Clock::now();

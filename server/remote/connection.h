@@ -2,7 +2,9 @@
 #pragma once
 
 #include <atomic>
+#include <mutex>
 #include <optional>
+#include <set>
 
 #include "server/remote/jogeon.grpc.pb.h"
 #include "server/remote/remote_service.h"
@@ -20,7 +22,7 @@ struct RemoteService::Connection {
     bool Ask(Method<Request, Reply> call, const Request& request, Reply& reply,
              std::chrono::milliseconds deadline) {
         const std::optional<Trouble> trouble = Call(call, request, reply, deadline);
-        if (trouble && log) log(*trouble);
+        if (trouble && log && !givenUp_) log(*trouble);
         return !trouble;
     }
 
@@ -34,6 +36,9 @@ struct RemoteService::Connection {
     // Whether a call failed a moment ago.
     bool InTrouble() const;
 
+    // Ends the calls under way and has those to come fail.
+    void GiveUpCalls();
+
     const std::string address;
     const TroubleLog log;
     const RemoteSettings settings;
@@ -41,6 +46,19 @@ struct RemoteService::Connection {
     const std::unique_ptr<ConditionService::Stub> stub;
 
 private:
+    // A call that can be given up.
+    class UnderWay {
+    public:
+        UnderWay(Connection& connection, grpc::ClientContext& context);
+        ~UnderWay();
+        UnderWay(const UnderWay&) = delete;
+        UnderWay& operator=(const UnderWay&) = delete;
+
+    private:
+        Connection& connection_;
+        grpc::ClientContext& context_;
+    };
+
     using Clock = std::chrono::steady_clock;
 
     template <typename Request, typename Reply>
@@ -48,6 +66,7 @@ private:
                                 std::chrono::milliseconds deadline) {
         grpc::ClientContext context;
         Prepare(context, deadline);
+        const UnderWay underWay(*this, context);
         return Judge((stub.get()->*call)(&context, request, &reply), deadline);
     }
 
@@ -55,6 +74,9 @@ private:
     std::optional<Trouble> Judge(const grpc::Status& status, std::chrono::milliseconds deadline);
 
     std::atomic<Clock::time_point> lastTrouble_{Clock::time_point::min()};
+    std::atomic<bool> givenUp_ = false;
+    std::mutex mutex_;
+    std::set<grpc::ClientContext*> underWay_;  // under mutex_
 };
 
 }  // namespace jogeon::remote

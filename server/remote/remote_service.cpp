@@ -78,4 +78,8 @@ service::MarketSummary RemoteService::Market() {
     return {reply.source(), reply.generated(), reply.stocks(), reply.last_date()};
 }
 
+void RemoteService::GiveUpCalls() {
+    connection_->GiveUpCalls();
+}
+
 }  // namespace jogeon::remote

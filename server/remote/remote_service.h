@@ -6,6 +6,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 
@@ -38,6 +39,8 @@ struct RemoteSettings {
     // For the calls that a user interface makes on its own thread.
     std::chrono::milliseconds callDeadline{5'000};
     int protocol = kProtocol;
+    // Hears of the first call that succeeds after one that failed, on the thread that made it. May be empty.
+    std::function<void()> recovered;
 };
 
 class RemoteService : public service::Service {
@@ -61,6 +64,9 @@ public:
     // the hundred, and a server that hangs would hold up each of them.
     std::string StockName(const std::string& code) override;
     service::MarketSummary Market() override;
+
+    // Callable while calls are under way, which return soon. They fail without a word to the log.
+    void GiveUpCalls() override;
 
 private:
     struct Connection;

@@ -48,6 +48,9 @@ public:
 
     // Throws std::runtime_error when the service can't tell.
     virtual MarketSummary Market() = 0;
+
+    // The asker goes away: calls under way end soon where they can, and calls to come may fail.
+    virtual void GiveUpCalls() {}
 };
 
 }  // namespace jogeon::service

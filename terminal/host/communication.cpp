@@ -6,6 +6,7 @@
 #include "screen/host/window_messages_qt.h"
 #include "screen/transactions/reply_record.h"
 #include "screen/transactions/request_record.h"
+#include "terminal/host/parting.h"
 
 namespace jogeon::terminal {
 
@@ -16,7 +17,7 @@ ServiceCommunication::ServiceCommunication(service::Service& service, std::strin
 
 // Replies that are still under way find nobody to tell.
 ServiceCommunication::~ServiceCommunication() {
-    worker_.waitForDone();
+    EndWork(worker_, service_);
 }
 
 int ServiceCommunication::CommRequestData(host::WindowHandle window, std::vector<std::string> records, int,

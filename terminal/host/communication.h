@@ -26,6 +26,8 @@ public:
 
     // `trace` may be empty; it is called on the user-interface thread. The service outlives this object.
     ServiceCommunication(service::Service& service, std::string user, Tracer trace);
+
+    // Drops what a slow service hasn't begun to answer.
     ~ServiceCommunication() override;
 
     int CommRequestData(host::WindowHandle window, std::vector<std::string> records, int, int, int,

@@ -30,6 +30,8 @@ TEST(OptionsTest, WrongUseIsToldInOneLine) {
                                      {"--server", "127.0.0.1:0"},
                                      {"--server", "127.0.0.1:50150", "--store", "s.sqlite"},
                                      {"--server", "127.0.0.1:50150", "--market", __FILE__},
+                                     {"--lang", "fr"},
+                                     {"--theme", "pink"},
                                      {"--colour"},
                                      {"stray"}}) {
         const Outcome outcome = Read(wrong);
@@ -42,14 +44,17 @@ TEST(OptionsTest, WrongUseIsToldInOneLine) {
 TEST(OptionsTest, GoodOptionsAreTaken) {
     QTemporaryFile market;
     ASSERT_TRUE(market.open());
-    const Outcome outcome = Read({"--user", "kim_7", "--home", "h", "--market", market.fileName(), "--store",
-                                  "s.sqlite", "--open", "정배열", "--trace"});
+    const Outcome outcome =
+        Read({"--user", "kim_7", "--home", "h", "--market", market.fileName(), "--store", "s.sqlite",
+              "--open", "정배열", "--trace", "--lang", "en", "--theme", "dark"});
     ASSERT_TRUE(outcome.options) << outcome.said;
     EXPECT_EQ("kim_7", outcome.options->user);
     EXPECT_EQ("정배열", outcome.options->openSet);
     EXPECT_EQ(market.fileName(), outcome.options->market);
     EXPECT_EQ("s.sqlite", outcome.options->store);
     EXPECT_TRUE(outcome.options->trace);
+    EXPECT_EQ("en", outcome.options->lang);
+    EXPECT_EQ("dark", outcome.options->theme);
     EXPECT_EQ("guest", Read({}).options->user);
     EXPECT_EQ("127.0.0.1:50150", Read({"--server", "127.0.0.1:50150"}).options->server);
 }

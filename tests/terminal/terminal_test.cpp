@@ -1,77 +1,31 @@
 // The real terminal: the module loaded from its library, the real service on its thread, real clicks.
 #include "terminal/terminal.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QLabel>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
+#include <future>
 #include <set>
 
 #include <gtest/gtest.h>
 
 #include "screen/text/cp949.h"
-#include "server/market/generated_market.h"
 #include "server/market/market_file.h"
 #include "server/remote/loopback_address.h"
 #include "server/remote/remote_service.h"
 #include "server/remote/service_server.h"
 #include "server/service/local_service.h"
 #include "terminal/demonstration.h"
-#include "terminal/screen_driver.h"
+#include "tests/terminal/support/desk.h"
+#include "tests/terminal/support/terminal_fixture.h"
 
 namespace jogeon::terminal {
 namespace {
-
-constexpr int kPatience = 60000;  // milliseconds, for a sanitized build on a busy machine
-
-class TerminalTest : public testing::Test {
-protected:
-    // The market of a first start, from a file: making it takes seconds in a sanitized build.
-    static void SetUpTestSuite() {
-        marketFolder_ = std::make_unique<QTemporaryDir>();
-        market::WriteMarket(*market::GenerateMarket(), MarketFile().toStdString());
-    }
-    static void TearDownTestSuite() { marketFolder_.reset(); }
-    static QString MarketFile() { return marketFolder_->path() + "/generated.market"; }
-
-    TerminalTest() {
-        options_.user = "tester";
-        options_.market = MarketFile();
-        options_.home = folder_.path() + "/home";
-        options_.demonstrate = "no boxes";
-    }
-
-    void Open() {
-        terminal_ = std::make_unique<Terminal>(options_);
-        terminal_->Window().show();
-        screen_ = std::make_unique<ScreenDriver>(terminal_->Window());
-        // The answer to the start-up's own request would end the wait for a search.
-        ASSERT_TRUE(QTest::qWaitFor([this] { return terminal_->Idle(); }, kPatience));
-    }
-
-    void SearchAndWait() {
-        screen_->Search();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return terminal_->Idle(); }, kPatience));
-    }
-
-    QString Label(int id) { return terminal_->Window().findChild<QLabel*>(QString::number(id))->text(); }
-    QAbstractButton& Button(int id) {
-        return *terminal_->Window().Frame().findChild<QAbstractButton*>(QString::number(id));
-    }
-
-    inline static std::unique_ptr<QTemporaryDir> marketFolder_;
-    QTemporaryDir folder_;
-    Options options_;
-    std::unique_ptr<Terminal> terminal_;
-    std::unique_ptr<ScreenDriver> screen_;
-};
 
 TEST_F(TerminalTest, EverySetOfTheFirmIsSearchedPageByPageToItsEnd) {
     Open();
@@ -162,7 +116,7 @@ TEST_F(TerminalTest, AScreenMovedToAnotherWindowNoLongerAsksForSizes) {
     other.setCentralWidget(&frame);
     Button(21041).click();
     EXPECT_EQ(1, asked);
-    terminal_->Window().setCentralWidget(&frame);  // whose it is
+    frame.setParent(&terminal_->Window());  // whose it is
 }
 
 TEST_F(TerminalTest, DemonstrationWritesAPictureAndNamesTheSetsWhenOneIsUnknown) {
@@ -248,6 +202,64 @@ TEST_F(ServedTerminalTest, OutlivesItsServerAndFindsTheNextOne) {
     terminal_.reset();
     EXPECT_NE(std::string::npos, testing::internal::GetCapturedStderr().find("can't be reached"));
     EXPECT_THROW(Terminal{options_}, remote::RemoteError) << "nobody to start with";
+}
+
+// Another market than the generated one: a stock of its own.
+std::unique_ptr<service::LocalService> ServiceOfOneStock() {
+    return std::make_unique<service::LocalService>(OneStock(), nullptr);
+}
+
+TEST_F(ServedTerminalTest, FootTellsThatTheServerIsGoneAndWhichMarketItComesBackWith) {
+    Serve();
+    Open();
+    const auto foot = [this](const char* name) {
+        return terminal_->Window().findChild<QLabel*>(name)->text();
+    };
+    EXPECT_TRUE(foot("serviceLine").endsWith("연결됨")) << foot("serviceLine").toStdString();
+    const int port = server_->Port();
+    server_.reset();
+    testing::internal::CaptureStderr();
+    ASSERT_TRUE(screen_->OpenSet(screen_->SetNames().value(0)));
+    SearchAndWait();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return foot("serviceLine").endsWith("연결 끊김"); }, kPatience));
+    testing::internal::GetCapturedStderr();
+
+    const auto other = ServiceOfOneStock();
+    server_.emplace(*other, port);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return foot("serviceLine").endsWith("연결됨"); }, kPatience))
+        << "though nobody searched";
+    EXPECT_TRUE(foot("marketLine").endsWith("1종목")) << foot("marketLine").toStdString();
+    EXPECT_EQ("2024-01-02 기준", foot("dateLine"));
+    terminal_.reset();
+    server_.reset();
+}
+
+// Answers no request until it may.
+class HangingService : public service::LocalService {
+public:
+    HangingService() : LocalService(OneStock(), nullptr) {}
+    std::string Handle(const service::Request&) override {
+        release.get_future().wait();
+        return {};
+    }
+    std::promise<void> release;
+};
+
+TEST_F(ServedTerminalTest, ClosingWaitsForNoServerThatHangs) {
+    HangingService hanging;
+    server_.emplace(hanging, 0);
+    options_.server = QString::fromStdString(remote::LoopbackAddress(server_->Port()));
+    options_.market.clear();
+    terminal_ = std::make_unique<Terminal>(options_);
+    ScreenDriver screen(terminal_->Window());
+    ASSERT_TRUE(screen.OpenSet(screen.SetNames().first()));
+    screen.Search();
+    EXPECT_FALSE(terminal_->Idle());
+    QElapsedTimer closing;
+    closing.start();
+    terminal_.reset();
+    EXPECT_LT(closing.elapsed(), 10'000);
+    hanging.release.set_value();
 }
 
 // The exports that a screen of this host must have and that do nothing here.

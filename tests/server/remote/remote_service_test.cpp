@@ -175,6 +175,41 @@ public:
     std::promise<void> release;
 };
 
+TEST_F(RemoteServiceTest, RecoveryIsToldOnceWhenACallSucceedsAgain) {
+    RemoteSettings settings;
+    int recovered = 0;
+    settings.recovered = [&recovered] { ++recovered; };
+    const auto remote = Connect(settings);
+    remote->Handle(Search());
+    EXPECT_EQ(recovered, 0) << "nothing had failed";
+    const int port = server->Port();
+    server.reset();
+    EXPECT_THROW(remote->Market(), RemoteError);
+    server.emplace(local, port);
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (remote->Handle(Search()).empty() && std::chrono::steady_clock::now() < until)
+        std::this_thread::sleep_for(milliseconds(50));
+    remote->Handle(Search());
+    EXPECT_EQ(recovered, 1);
+}
+
+TEST_F(RemoteServiceTest, CallsThatAreGivenUpEndAtOnceAndSilently) {
+    TroubledService troubled;
+    server.emplace(troubled, 0);
+    address = LoopbackAddress(server->Port());
+    const auto remote = Connect();
+    ASSERT_EQ(remote->Market().stocks, 11) << "connected";
+    const auto before = std::chrono::steady_clock::now();
+    auto hanging = std::async(std::launch::async, [&] { return Ask(*remote, "hang"); });
+    EXPECT_EQ(hanging.wait_for(milliseconds(200)), std::future_status::timeout);
+    remote->GiveUpCalls();
+    EXPECT_EQ(hanging.get(), "");
+    EXPECT_EQ(Ask(*remote, "hang"), "") << "nor does a later one wait";
+    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(10));
+    EXPECT_THAT(lines, ElementsAre());
+    troubled.release.set_value();
+}
+
 TEST_F(RemoteServiceTest, HangingServiceEndsAtTheDeadlineAndAThrowingOneFailsItsCallOnly) {
     TroubledService troubled;
     std::vector<std::string> told;

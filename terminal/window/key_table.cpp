@@ -1,0 +1,84 @@
+#include "terminal/window/key_table.h"
+
+#include <QCoreApplication>
+#include <iterator>
+#include <span>
+
+namespace jogeon::terminal {
+namespace {
+
+constexpr char kContext[] = "jogeon::terminal::KeyPage";
+
+struct KeyRow {
+    const char* keys;
+    const char* does;
+};
+
+constexpr KeyRow kTerminal[] = {
+    {"Alt+1", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건검색 화면 [0150]으로")},
+    {"Alt+2, Alt+3, ...", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "[화면] 메뉴의 다음 화면 열기")},
+    {"F11", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "전체 화면")},
+    {"Ctrl+Q", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "끝내기")},
+};
+
+constexpr KeyRow kScreen[] = {
+    {"F5, Shift+F5", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "검색, 다음 페이지")},
+    {"Ctrl+N, Ctrl+S", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "새 조건, 저장")},
+    {"Ctrl+Shift+S, F2", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다른 이름으로 저장, 이름 바꾸기")},
+    {"Ctrl+T", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "대상변경")},
+    {"Ctrl+B", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "왼쪽 창 보이기, 감추기")},
+    {"F1", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건식 도움말")},
+    {"Ctrl+1, Ctrl+2, Ctrl+3", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건 목록, 조건식, 결과로")},
+    {"Tab", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다음 칸으로")},
+};
+
+constexpr KeyRow kConditions[] = {
+    {"↑, ↓", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다른 조건으로 옮겨 그 내용을 연다")},
+    {"Space, Ctrl+Space", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "체크, 값 보이기")},
+    {"Alt+↑, Alt+↓, Alt+Home, Alt+End",
+     QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건을 위, 아래, 맨 위, 맨 아래로")},
+    {"Delete, Ctrl+Delete", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "삭제, 모두 삭제")},
+    {"Ctrl+A, Ctrl+R",
+     QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "모두 체크하거나 풀기, 글자 다시 매기기")},
+    {"Enter", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "버튼 위에서: 누르기")},
+};
+
+constexpr KeyRow kTree[] = {
+    {"Ctrl+F", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "찾기 칸으로")},
+    {"Enter", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "지표나 조건 열기, 묶음 접고 펴기")},
+    {"F3, Shift+F3", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다음 찾기, 이전 찾기")},
+};
+
+struct KeyGroup {
+    const char* title;
+    std::span<const KeyRow> rows;
+};
+
+constexpr KeyGroup kGroups[] = {
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "터미널"), kTerminal},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건검색 화면"), kScreen},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건 목록에서"), kConditions},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "왼쪽 창에서"), kTree},
+};
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate(kContext, text).toHtmlEscaped();
+}
+
+}  // namespace
+
+QString KeyPage() {
+    QString page;
+    for (const KeyGroup& group : kGroups) {
+        page +=
+            "<h3>" + Translated(group.title) + "</h3><table cellspacing='0' cellpadding='3' width='100%'>";
+        for (const KeyRow& row : group.rows) {
+            page += "<tr><td width='42%'><b>" + QString::fromUtf8(row.keys) + "</b></td><td>" +
+                    Translated(row.does) + "</td></tr>";
+        }
+        page += "</table>";
+    }
+    return page;
+}
+
+}  // namespace jogeon::terminal
