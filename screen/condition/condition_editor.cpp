@@ -66,9 +66,29 @@ std::vector<const CIndexInfo*> ConditionEditor::Conditions() const {
     return all;
 }
 
+int ConditionEditor::NextSequenceStep() {
+    const int checked = CheckedBefore(static_cast<int>(conditions_.size()));
+    if (checked == 0) return 0;
+    if (sequenceStep_ >= checked) ResetSequence();
+    SetSequenceHighlight(++sequenceStep_, false);
+    return sequenceStep_;
+}
+
 void ConditionEditor::ResetSequence() {
     sequenceStep_ = 0;
-    view_.ClearSequenceMarks();
+    SetSequenceHighlight(0, true);
+}
+
+void ConditionEditor::RefreshSequenceMarks() {
+    for (int step = 1; step <= sequenceStep_; ++step) SetSequenceHighlight(step, false);
+}
+
+// Marks the step-th checked condition; those of earlier steps keep their marks. A reset takes all marks away.
+void ConditionEditor::SetSequenceHighlight(int step, bool reset) {
+    if (reset) return view_.ClearSequenceMarks();
+    for (int index = 0; IsRow(index); ++index) {
+        if (At(index).m_bChecked && --step == 0) return view_.MarkSequenceRow(index + 1);
+    }
 }
 
 bool ConditionEditor::Confirmed(const char* question) {

@@ -70,16 +70,25 @@ public:
     // The letter of the next new condition; one past 'Z' when none is free.
     char NextLetter() const { return nextLetter_; }
 
+    // How many checked conditions the sequential search has reached; 0 while there is none.
     int SequenceStep() const { return sequenceStep_; }
+
+    // Takes one checked condition more, or begins anew behind the last, and marks it in the grid. Gives the
+    // new step; 0, with nothing done, when no condition is checked.
+    int NextSequenceStep();
 
     // Ends a sequential search: the step goes to 0 and the marks go from the grid.
     void ResetSequence();
+
+    // Paints the marks again, after a change of the colour table.
+    void RefreshSequenceMarks();
 
 private:
     bool IsRow(int index) const { return index >= 0 && index < static_cast<int>(conditions_.size()); }
     CIndexInfo& At(int index) { return *conditions_[static_cast<std::size_t>(index)]; }
     bool Confirmed(const char* question);
     int CheckedBefore(int index) const;
+    void SetSequenceHighlight(int step, bool reset);
 
     bool MakeRoomForOne();
     void ToggleChecked(int index);

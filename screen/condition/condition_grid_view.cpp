@@ -161,11 +161,17 @@ void ConditionGrid::FocusRow(int row) {
     cells_.SetFocusRow(row, kColumnContent);
 }
 
+void ConditionGrid::MarkRow(int row) {
+    PaintLetterBack(row, ColorOf(Color::SequenceMark));
+}
+
 void ConditionGrid::ClearMarks() {
-    for (int row = 1; row < cells_.GetRowCnt(); ++row) {
-        cells_.GetCell(row, kColumnLetter).backColour = fbcolour::kWindow;
-        cells_.InvalidateCell(row, kColumnLetter);
-    }
+    for (int row = 1; row < cells_.GetRowCnt(); ++row) PaintLetterBack(row, fbcolour::kWindow);
+}
+
+void ConditionGrid::PaintLetterBack(int row, FBColour colour) {
+    cells_.GetCell(row, kColumnLetter).backColour = colour;
+    cells_.InvalidateCell(row, kColumnLetter);
 }
 
 bool ConditionGrid::event(QEvent* event) {

@@ -57,7 +57,8 @@ public:
     void FocusRow(int row);
     int FocusedRow() const { return cells_.GetFocusedCellID().row; }
 
-    // Takes the sequence marks from all rows.
+    // Marks the letter of a row as one that the sequential search has reached; and takes all marks away.
+    void MarkRow(int row);
     void ClearMarks();
 
     // A colour number, red in the low byte.
@@ -71,6 +72,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void PaintLetterBack(int row, FBColour colour);
     void MakeHeader();
     void MakeCommands();
     void OnNotify(const FBGridNotify& notify);

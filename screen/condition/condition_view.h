@@ -20,7 +20,8 @@ public:
     virtual void FillConditionGrid(const ConditionList& conditions) = 0;
     virtual void UpdateRow(int row, const CIndexInfo& condition) = 0;  // repaints one row as it is now
     virtual void FocusRow(int row) = 0;
-    virtual void ClearSequenceMarks() = 0;
+    virtual void MarkSequenceRow(int row) = 0;  // as reached by the sequential search
+    virtual void ClearSequenceMarks() = 0;      // of all rows
 
     virtual std::string ExpressionText() const = 0;  // the display form
     virtual void SetExpressionText(const std::string& text) = 0;

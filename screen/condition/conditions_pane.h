@@ -17,6 +17,7 @@ public:
     void FillConditionGrid(const ConditionList& conditions) override { grid_.Fill(conditions); }
     void UpdateRow(int row, const CIndexInfo& condition) override { grid_.UpdateRow(row, condition); }
     void FocusRow(int row) override { grid_.FocusRow(row); }
+    void MarkSequenceRow(int row) override { grid_.MarkRow(row); }
     void ClearSequenceMarks() override { grid_.ClearMarks(); }
     std::string ExpressionText() const override { return expression_.ExpressionText(); }
     void SetExpressionText(const std::string& text) override { expression_.SetExpressionText(text); }

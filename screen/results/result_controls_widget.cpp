@@ -6,10 +6,10 @@
 #include <QSignalBlocker>
 
 #include "screen/panes/progress_label_widget.h"
+#include "screen/results/code_list_button_widget.h"
 #include "screen/results/result_grid_view.h"
 #include "screen/results/result_notice_dialog.h"
 #include "screen/results/result_tabs_widget.h"
-#include "screen/text/cp949.h"
 
 namespace jogeon {
 
@@ -68,6 +68,18 @@ void ResultControlsView::EmptyGrid() {
     controls_.grid.EmptyGrid();
 }
 
+int ResultControlsView::GetRowCount() const {
+    return controls_.grid.GetRowCount();
+}
+
+std::string ResultControlsView::GetValue(int row, int column) const {
+    return controls_.grid.GetValue(row, column);
+}
+
+int ResultControlsView::FindColumnByTag(const std::string& tag) const {
+    return controls_.grid.FindColumnByTag(tag);
+}
+
 void ResultControlsView::ClearSelection() {
     controls_.grid.ClearSelection();
 }
@@ -78,6 +90,10 @@ void ResultControlsView::ScrollCellInView(int row, int column) {
 
 void ResultControlsView::SelectRow(int row) {
     controls_.grid.SelectRange(row, row);
+}
+
+std::vector<int> ResultControlsView::GetSelectedRows() const {
+    return controls_.grid.GetSelectedRows();
 }
 
 // --- tabs
@@ -124,8 +140,8 @@ void ResultControlsView::ShowCounts(int total, int received) {
     controls_.received.setText(QString::number(received));
 }
 
-void ResultControlsView::SetCodeListTitle(const std::string& title) {
-    controls_.codeList.setText(QString::fromStdString(ToUtf8(title)));
+void ResultControlsView::SetCodeList(const std::string& title, const std::vector<std::string>& codes) {
+    controls_.codeList.SetCodes(title, codes);
 }
 
 void ResultControlsView::ShowNoResultNotice() {

@@ -15,6 +15,7 @@ class QLabel;
 namespace jogeon {
 
 class CNVTab;
+class CodeListButton;
 class ProgressLabel;
 class ResultGrid;
 
@@ -24,7 +25,7 @@ struct ResultControls {
     CNVTab& tabs;
     QComboBox& scope;
     QAbstractButton& next;
-    QAbstractButton& codeList;
+    CodeListButton& codeList;
     QLabel& total;
     QLabel& received;
     ProgressLabel& progress;
@@ -48,10 +49,14 @@ public:
     void RefreshRows(int firstRow) override;
     void Redraw() override;
     void EmptyGrid() override;
+    int GetRowCount() const override;
+    std::string GetValue(int row, int column) const override;
+    int FindColumnByTag(const std::string& tag) const override;
 
     void ClearSelection() override;
     void ScrollCellInView(int row, int column) override;
     void SelectRow(int row) override;
+    std::vector<int> GetSelectedRows() const override;
 
     int TabCount() const override;
     int SelectedTab() const override;
@@ -63,7 +68,7 @@ public:
     void SelectScope(int scope) override;
     void SetNextEnabled(bool enabled) override;
     void ShowCounts(int total, int received) override;
-    void SetCodeListTitle(const std::string& title) override;
+    void SetCodeList(const std::string& title, const std::vector<std::string>& codes) override;
     void ShowNoResultNotice() override;
 
 private:

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "screen/results/code_list.h"
 #include "screen/results/column_match.h"
+#include "screen/results/name_cell.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -70,6 +72,7 @@ void ResultFlow::TakeFirstPage(const SearchReply& reply) {
     // An answer cut before its first row is not worth the result on show.
     if (result->WholeRows(reply) == 0) return;
 
+    result->searched = sent_;
     const int scope = std::clamp(view_.SelectedScope(), 0, kSequentialScope);
     ResultSet& placed = *result;
     PlaceUnderTab(std::move(result), scope == kSequentialScope ? 0 : scope);
@@ -192,15 +195,14 @@ void ResultFlow::UpdateNext(const ResultSet& result) {
     view_.SetNextEnabled(&result == activeResult_ && result.total > result.received);
 }
 
+// Whoever takes the codes finds what they were searched with beside them.
 void ResultFlow::PublishCodes(const ResultSet* result) {
     std::vector<std::string> codes;
     if (result) {
         codes = result->CodeFields();
-        for (std::string& code : codes) code = TrimRight(std::string_view(code).substr(code.empty() ? 0 : 1));
+        for (std::string& code : codes) code = BehindMarketLetter(code);
     }
-    const std::string title = "조건검색"_cp949;
-    links_.NVLink_SetMultiCodeLinkTagData(title, codes);
-    view_.SetCodeListTitle(title);
+    PublishCodeList(links_, view_, codes, result ? result->searched.conditionSet : std::string());
 }
 
 }  // namespace jogeon

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "screen/host/services.h"
@@ -22,6 +23,9 @@ class ResultFlow {
 public:
     // All four outlive the flow.
     ResultFlow(ResultView& view, ColumnTables& tables, host::LinkStore& links, host::Questions& questions);
+
+    // A search has been sent: the next first page is its result.
+    void OnSearchSent(SearchedSet searched) { sent_ = std::move(searched); }
 
     // A reply to "T", or to "N" with `nextPage` set. One that can't be read changes nothing, and a next page
     // is taken only while its search is the active one.
@@ -68,6 +72,7 @@ private:
     host::Questions& questions_;
     std::vector<std::unique_ptr<ResultSet>> resultSets_;
     ResultSet* activeResult_ = nullptr;
+    SearchedSet sent_;  // by the last search
 };
 
 }  // namespace jogeon

@@ -258,8 +258,7 @@ void ResultGrid::changeEvent(QEvent* event) {
 
 void ResultGrid::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
-        const QString text = SelectedText();
-        if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+        CopySelection();
         event->accept();
         return;
     }
@@ -267,12 +266,21 @@ void ResultGrid::keyPressEvent(QKeyEvent* event) {
     emit KeyPressed(event->key());
 }
 
+void ResultGrid::CopySelection() const {
+    const QString text = SelectedText();
+    if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+}
+
+QString ResultGrid::CopiedText(int row, int column) const {
+    return model_->Copied(row - kFirstRow, column - 1);
+}
+
 QString ResultGrid::SelectedText() const {
     QString text;
     for (const int row : GetSelectedRows()) {
         QStringList cells;
         for (int column = 1; column <= GetColCount(); ++column) {
-            if (!IsColHidden(column)) cells += model_->Copied(row - kFirstRow, column - 1);
+            if (!IsColHidden(column)) cells += CopiedText(row, column);
         }
         text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
     }

@@ -64,8 +64,13 @@ public:
     void SetRowColors(ColorNumber odd, ColorNumber even);  // 0: the grid's own
     void RefreshColors();                                  // after a change of the colour table
 
-    // The selected rows' visible cells, with tabs between cells and line ends between rows.
+    // A cell as a copy takes it, without separators and signs that a spreadsheet can't read.
+    QString CopiedText(int row, int column) const;
+
+    // The selected rows' visible cells, with tabs between cells and line ends between rows; and the same to
+    // the clipboard, unless nothing is selected.
     QString SelectedText() const;
+    void CopySelection() const;
 
 signals:
     void RowClicked(int row, int column);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/results/name_cell.h"
 #include "screen/text/cp949_qt.h"
 #include "screen/transactions/result_columns.h"
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "screen/results/row_table.h"
+#include "screen/results/searched_set.h"
 #include "screen/transactions/result_columns.h"
 #include "screen/transactions/search_reply.h"
 
@@ -28,6 +29,7 @@ struct ResultSet {
     std::vector<ResultColumn*> columns;
     std::vector<std::unique_ptr<ResultColumn>> valueColumns;  // the optional ones among `columns`
     RowTable rows;
+    SearchedSet searched;  // what brought it; empty if that isn't known
 
     // Takes the columns of a first page: the name column, then each FID that the tables know.
     void TakeColumns(const SearchReply& reply, ColumnTables& tables);

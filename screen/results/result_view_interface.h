@@ -1,4 +1,4 @@
-// What the result flow needs of the window: the grid, the tabs, the counts and the notice.
+// What the result flow and the links need of the window: the grid, the tabs, the counts and the notice.
 //
 // Grid columns count from 1. Grid row 1 is the header, and row r of a result, from 0, stands in grid row r
 // + 2. Operations change the window only: none of them calls back into the flow, so that selecting a tab here
@@ -37,12 +37,17 @@ public:
     // Tells the grid its new row count and refreshes the grid rows from `firstRow` to the end.
     virtual void RefreshRows(int firstRow) = 0;
     virtual void Redraw() = 0;
-    virtual void EmptyGrid() = 0;  // no rows but the header
+    virtual void EmptyGrid() = 0;         // no rows but the header
+    virtual int GetRowCount() const = 0;  // the header counts
+    // The text as it came, empty outside the grid.
+    virtual std::string GetValue(int row, int column) const = 0;
+    virtual int FindColumnByTag(const std::string& tag) const = 0;  // 0 if there is none
 
     // --- grid: selection
     virtual void ClearSelection() = 0;
     virtual void ScrollCellInView(int row, int column) = 0;
     virtual void SelectRow(int row) = 0;
+    virtual std::vector<int> GetSelectedRows() const = 0;  // from the top
 
     // --- tabs, by index from 0
     virtual int TabCount() const = 0;
@@ -57,8 +62,9 @@ public:
     virtual void SetNextEnabled(bool enabled) = 0;
     // Shows the counts as numbers and as the progress bar's range 0 to `total` and position `received`.
     virtual void ShowCounts(int total, int received) = 0;
-    virtual void SetCodeListTitle(const std::string& title) = 0;  // on the code-list button
-    virtual void ShowNoResultNotice() = 0;                        // modal, closes by itself
+    // What the code-list button holds: its title and the stocks behind it.
+    virtual void SetCodeList(const std::string& title, const std::vector<std::string>& codes) = 0;
+    virtual void ShowNoResultNotice() = 0;  // modal, closes by itself
 };
 
 }  // namespace jogeon

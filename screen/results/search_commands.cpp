@@ -4,6 +4,7 @@
 
 #include "screen/target/search_target.h"
 #include "screen/text/cp949.h"
+#include "screen/transactions/sequential_request.h"
 
 namespace jogeon {
 namespace {
@@ -31,9 +32,12 @@ void SearchCommands::Start() {
     }
     Release();
     inputs.prior = results_.Prior();
-    const auto payload = ComposeSearch(inputs, columns_, questions_);
+    const auto payload = inputs.scope == SearchScope::Sequential
+                             ? BuildSequentialRequest(inputs, columns_, questions_)
+                             : ComposeSearch(inputs, columns_, questions_);
     if (!payload) return;
     searchHandle_ = SearchHandleOf(inputs.header.currentSaved);
+    results_.OnSearchSent(SearchedSetOf(inputs, *payload));
     channel_.Send(*payload, kSearchKey);
 }
 

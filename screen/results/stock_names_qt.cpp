@@ -1,13 +1,8 @@
 #include "screen/results/stock_names_qt.h"
 
-#include "screen/text/bytes.h"
 #include "screen/text/cp949_qt.h"
 
 namespace jogeon {
-
-std::string_view CodeInNameCell(std::string_view cell) {
-    return TrimRight(Field(cell, 1, 6));
-}
 
 const QString& StockNames::Of(std::string_view code) {
     std::string key(code);

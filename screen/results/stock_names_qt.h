@@ -10,9 +10,6 @@
 
 namespace jogeon {
 
-// The six-byte code in a name cell, which begins with the market's letter.
-std::string_view CodeInNameCell(std::string_view cell);
-
 class StockNames {
 public:
     // `lists` outlives this.

@@ -1,5 +1,4 @@
 // The commands of the screen's controls: which button does what, and what only the screen itself can do.
-#include <QStandardItemModel>
 #include <algorithm>
 #include <utility>
 
@@ -31,13 +30,9 @@ constexpr std::pair<int, int> kBarsAgoButtons[] = {
 
 }  // namespace
 
-// A sequential search can't be chosen while there is nothing to run it.
 void ConditionScreen::FillScopes() {
     QComboBox& scopes = form_.ComboAt(control::kScope);
     for (const char* scope : kScopes) scopes.addItem(QString::fromUtf8(scope));
-    qobject_cast<QStandardItemModel*>(scopes.model())
-        ->item(static_cast<int>(SearchScope::Sequential))
-        ->setEnabled(false);
 }
 
 void ConditionScreen::WireCommands() {
@@ -138,9 +133,11 @@ SearchInputs ConditionScreen::GatherSearchInputs() {
     inputs.header = {userId_, saved_.CurrentSaved(),
                      ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()), BuySelected(),
                      saved_.Target()};
+    inputs.targetLabel = saved_.Target().m_strTargetLabel;
     inputs.conditions = editor_.Conditions();
     inputs.expressionText = expressionEdit_.ExpressionText();
     inputs.checkExpression = [this](const std::string& text) { return CheckExpression(text); };
+    inputs.nextSequenceStep = [this] { return editor_.NextSequenceStep(); };
     return inputs;
 }
 

@@ -48,7 +48,7 @@ void ConditionScreen::ShutDown() {
 }
 
 void ConditionScreen::FindHostMainWindow() {
-    hostMainWindow_ = host::NearestHostFrame(*this);
+    hostMainWindow_.Attach(host::NearestHostFrame(*this));
 }
 
 void ConditionScreen::ReadUserId() {
@@ -85,8 +85,8 @@ void ConditionScreen::SetUpControls() {
     SelectBuy(true);
     FillScopes();
     form_.ButtonAt(control::kNextPage).setEnabled(false);
-    host::SendMessage(host::HandleOf(&form_.At(control::kCodeList)), host::kHostChanged, 0,
-                      static_cast<std::intptr_t>(hostMainWindow_));
+    host::SendMessage(host::HandleOf(&codeListButton_), host::kHostChanged, 0,
+                      static_cast<std::intptr_t>(hostMainWindow_.Handle()));
 }
 
 void ConditionScreen::BuildConditionGrid() {

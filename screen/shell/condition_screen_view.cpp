@@ -33,6 +33,7 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       handle_(host::RegisterWindow(*this)),
       form_(this),
       expressionEdit_(*services_.questions),
+      codeListButton_(*services_.codeLists),
       conditionGrid_(control::kConditionGrid),
       resultGrid_(*services_.codeLists),
       panel_(handle_, *services_.questions, *services_.links),
@@ -47,14 +48,16 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       saved_({*this, savedDialogs_, editor_, channel_, *services_.questions, *services_.links, settings_}),
       resultControls_(
           {*this, resultGrid_, resultTabs_, form_.ComboAt(control::kScope),
-           form_.ButtonAt(control::kNextPage), form_.ButtonAt(control::kCodeList),
-           form_.LabelAt(control::kTotalCount), form_.LabelAt(control::kReceivedCount), progressBar_},
+           form_.ButtonAt(control::kNextPage), codeListButton_, form_.LabelAt(control::kTotalCount),
+           form_.LabelAt(control::kReceivedCount), progressBar_},
           *services_.questions, *services_.clock),
       results_(resultControls_, columns_, *services_.links, *services_.questions),
-      search_(channel_, results_, columns_, *services_.questions, [this] { return GatherSearchInputs(); }) {
+      search_(channel_, results_, columns_, *services_.questions, [this] { return GatherSearchInputs(); }),
+      resultLinks_({resultControls_, results_, services_, hostMainWindow_, settings_, handle_}) {
     conditionGrid_.LinkEditor(editor_);
     PlaceControls();
     WireCommands();
+    WireLinks();
     WireReplies();
 }
 
@@ -66,6 +69,7 @@ void ConditionScreen::LinkPanes(ScreenSplitter& splitter, CMenuTreeView& tree) {
     splitterWindow_ = host::HandleOf(&splitter);
     treeView_ = &tree;
     WireScreenKeys(splitter, form_);
+    WireScreenKey(splitter, Qt::CTRL | Qt::Key_E, [this] { SaveResultSheet(); });
     saved_.LinkTree(tree);
 }
 
@@ -76,10 +80,11 @@ void ConditionScreen::PlaceControls() {
     form_.Place(expressionEdit_, control::kExpression, control::kExpression);
     form_.Place(resultTabs_, control::kResultTabs, control::kResultTabs);
     form_.Place(resultGrid_, control::kResultGrid, control::kResultGrid);
+    form_.Place(codeListButton_, control::kCodeList, control::kCodeList);
     form_.Place(progressBar_, control::kProgress, control::kProgress);
     form_.OrderTabs();
     host::RegisterWindow(resultGrid_);
-    host::RegisterWindow(form_.At(control::kCodeList));
+    host::RegisterWindow(codeListButton_);
 }
 
 // --- what the host asks for
@@ -107,6 +112,7 @@ void ConditionScreen::ReadHostColors() {
         // Under a style sheet a palette would have no effect.
         form_.At(id).setStyleSheet(QStringLiteral("QRadioButton { background: %1; }").arg(radio.name()));
     }
+    editor_.RefreshSequenceMarks();
     resultGrid_.RefreshColors();
     resultTabs_.RefreshColors();
     treeView_->RefreshColors();
@@ -172,8 +178,9 @@ void ConditionScreen::resizeEvent(QResizeEvent*) {
 }
 
 void ConditionScreen::ChangeHost(host::WindowHandle mainWindow) {
-    hostMainWindow_ = mainWindow;
-    for (const QWidget* told : {&form_.At(control::kCodeList), static_cast<QWidget*>(&resultGrid_)}) {
+    hostMainWindow_.Attach(mainWindow);
+    for (const QWidget* told :
+         {static_cast<QWidget*>(&codeListButton_), static_cast<QWidget*>(&resultGrid_)}) {
         host::SendMessage(host::HandleOf(told), host::kHostChanged, 0,
                           static_cast<std::intptr_t>(mainWindow));
     }

@@ -17,11 +17,15 @@
 #include "screen/condition/conditions_pane.h"
 #include "screen/expression/expression_edit.h"
 #include "screen/host/services.h"
+#include "screen/host/window_messages_qt.h"
 #include "screen/panes/progress_label_widget.h"
 #include "screen/panes/tree_picks.h"
+#include "screen/results/code_list_button_widget.h"
+#include "screen/results/host_main_window.h"
 #include "screen/results/result_controls_widget.h"
 #include "screen/results/result_flow.h"
 #include "screen/results/result_grid_view.h"
+#include "screen/results/result_links.h"
 #include "screen/results/result_tabs_widget.h"
 #include "screen/results/search_commands.h"
 #include "screen/saved/saved_conditions.h"
@@ -97,6 +101,8 @@ private:
     void FillScopes();
     void WireCommands();
     void WireReplies();
+    void WireLinks();
+    void SaveResultSheet();
     void OnExpressionChanged();
     void SaveConditionsAsSheet();
     void ToggleLeftPane();
@@ -119,13 +125,14 @@ private:
     const host::Services services_;
     const host::WindowHandle hostWindow_;
     const host::WindowHandle handle_;
-    host::WindowHandle hostMainWindow_ = 0;
+    HostMainWindow hostMainWindow_{host::SendMessage};
     host::WindowHandle splitterWindow_ = 0;
     CMenuTreeView* treeView_ = nullptr;
 
     ScreenForm form_;
     ExpressionEdit expressionEdit_;
     CNVTab resultTabs_;
+    CodeListButton codeListButton_;
     ProgressLabel progressBar_;
     ConditionGrid conditionGrid_;
     ResultGrid resultGrid_;
@@ -149,6 +156,7 @@ private:
     ResultControlsView resultControls_;
     ResultFlow results_;
     SearchCommands search_;
+    ResultLinks resultLinks_;
 };
 
 }  // namespace jogeon

@@ -62,7 +62,7 @@ constexpr Control kControls[] = {
     {21058, Area, {6, kConditionsTop, 567, 90}, "", ""},
     {21089, Expression, {56, kExpressionRow, 369, 22}, "", ""},
     {21098, Combo, {6, kButtonRow, 94, 22}, "", ""},
-    {21164, Button, {448, kButtonRow, 78, 22}, "", ""},
+    {21164, CodeList, {448, kButtonRow, 78, 22}, "", ""},
     {21105, Tabs, {6, kTabRow, 567, 22}, "", ""},
     {21104, Grid, {6, kResultsTop, 567, 151}, "", ""},
     {21044, Progress, {62, kFootRow + 1, 226, 16}, "", ""},

@@ -20,6 +20,7 @@ enum class ControlKind {
     Combo,
     NumberEdit,  // an edit box with its spin buttons
     Expression,
+    CodeList,  // the button with the published stocks
     Tabs,
     Grid,  // the result grid
     Progress,

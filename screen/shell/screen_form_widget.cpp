@@ -19,6 +19,7 @@ const char* ClassNameOf(ControlKind kind) {
     switch (kind) {
         case ControlKind::Button:
         case ControlKind::Toggle:
+        case ControlKind::CodeList:
             return "CNVButton";
         case ControlKind::Label:
         case ControlKind::Value:

@@ -1,6 +1,7 @@
 #include "screen/shell/screen_keys_qt.h"
 
 #include <QShortcut>
+#include <utility>
 
 namespace jogeon {
 namespace {
@@ -13,6 +14,10 @@ struct ScreenKey {
 constexpr ScreenKey kKeys[] = {
     {Qt::Key_F5, control::kSearch},
     {Qt::SHIFT | Qt::Key_F5, control::kNextPage},
+    {Qt::Key_F6, control::kRealTime},
+    {Qt::Key_F7, control::kChart},
+    {Qt::CTRL | Qt::Key_D, control::kInterestSave},
+    {Qt::CTRL | Qt::Key_L, control::kCodeList},
     {Qt::CTRL | Qt::Key_N, control::kNewCondition},
     {Qt::CTRL | Qt::Key_S, control::kSave},
     {Qt::CTRL | Qt::SHIFT | Qt::Key_S, control::kSaveAs},
@@ -29,14 +34,18 @@ constexpr ScreenKey kKeys[] = {
 
 void WireScreenKeys(QWidget& screen, const ScreenForm& form) {
     for (const ScreenKey& key : kKeys) {
-        auto* shortcut = new QShortcut(QKeySequence(key.key), &screen);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         QWidget& target = form.At(key.control);
-        QObject::connect(shortcut, &QShortcut::activated, &target, [&target] {
+        WireScreenKey(screen, key.key, [&target] {
             auto* button = qobject_cast<QAbstractButton*>(&target);
             button ? button->click() : target.setFocus(Qt::ShortcutFocusReason);
         });
     }
+}
+
+void WireScreenKey(QWidget& screen, QKeyCombination key, std::function<void()> command) {
+    auto* shortcut = new QShortcut(QKeySequence(key), &screen);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &screen, std::move(command));
 }
 
 }  // namespace jogeon

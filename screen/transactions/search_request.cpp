@@ -20,6 +20,7 @@ constexpr std::size_t kUserIdWidth = 8;
 constexpr std::size_t kHandleWidth = 2;
 constexpr std::size_t kFidWidth = 4;
 constexpr std::size_t kCodeWidth = 12;
+constexpr std::size_t kConditionSetOffset = 1 + 8 + 1;  // behind letter, window and scope
 
 bool NeedsPrior(SearchScope scope) {
     return scope == SearchScope::Within || scope == SearchScope::Outside;
@@ -38,9 +39,11 @@ void PutWhole(PacketWriter& writer, const std::string& bytes) {
     writer.PutBytes(bytes.data(), bytes.size());
 }
 
-void PutPrior(PacketWriter& writer, const PriorResult& prior) {
+std::string PriorList(const PriorResult& prior) {
+    PacketWriter writer(kPayloadBlockHint);
     writer.PutFormat("%04d", prior.received);
     for (const std::string& code : prior.codes) writer.PutField(code, kCodeWidth);
+    return writer.Detach();
 }
 
 }  // namespace
@@ -70,6 +73,24 @@ std::string ComposeConditionSet(const HeaderSource& header, std::string_view exp
     return bytes;
 }
 
+std::string ComposeStart(host::WindowHandle window, char scope, const std::string& conditionSet,
+                         const std::vector<std::string>& fids) {
+    PacketWriter writer(kPayloadBlockHint);
+    writer.PutChar('T');
+    PutWindow(writer, window);
+    writer.PutChar(scope);
+    PutWhole(writer, conditionSet);
+    PutWhole(writer, ComposeFidList(fids));
+    return writer.Detach();
+}
+
+std::string_view ConditionSetIn(std::string_view payload) {
+    const std::string_view set = payload.substr(std::min(payload.size(), kConditionSetOffset));
+    const int count = Atoi(Field(set, condition_header::kCount.offset, condition_header::kCount.width));
+    const auto blocks = static_cast<std::size_t>(std::max(count, 0));
+    return set.substr(0, kConditionHeaderSize + blocks * kConditionBlockSize);
+}
+
 std::string ComposeFidList(const std::vector<std::string>& fids) {
     std::string list = ZeroPadded(static_cast<int>(fids.size()), 4);
     for (const std::string& fid : fids) list += RightIn(fid, kFidWidth);
@@ -86,15 +107,12 @@ std::optional<std::string> ComposeSearch(const SearchInputs& inputs, ColumnTable
     if (checked.empty()) return std::nullopt;
 
     columns.UpdateSequenceStart();
-    PacketWriter writer(kPayloadBlockHint);
-    writer.PutChar('T');
-    PutWindow(writer, inputs.window);
-    writer.PutChar(ScopeCharacter(inputs.scope));
-    PutWhole(writer,
-             ComposeConditionSet(inputs.header, *expression, static_cast<int>(checked.size()), checked));
-    PutWhole(writer, ComposeFidList(SelectedFids(columns)));
-    if (NeedsPrior(inputs.scope)) PutPrior(writer, *inputs.prior);
-    return writer.Detach();
+    const std::string set =
+        ComposeConditionSet(inputs.header, *expression, static_cast<int>(checked.size()), checked);
+    std::string payload =
+        ComposeStart(inputs.window, ScopeCharacter(inputs.scope), set, SelectedFids(columns));
+    if (NeedsPrior(inputs.scope)) payload += PriorList(*inputs.prior);
+    return payload;
 }
 
 std::string ComposeNextPage(host::WindowHandle window, std::string_view userId, int resultHandle,

@@ -32,11 +32,14 @@ struct SearchInputs {
     host::WindowHandle window = 0;
     SearchScope scope = SearchScope::Whole;
     HeaderSource header;
+    std::string targetLabel;                    // what the screen calls the target; not sent
     std::vector<const CIndexInfo*> conditions;  // in list order, checked or not
     std::string expressionText;                 // as the box shows it
     std::optional<PriorResult> prior;           // none without a result tab
     // Checks the trimmed expression and tells the user what is wrong with it.
     std::function<bool(const std::string&)> checkExpression;
+    // Takes the next step of a sequential search, of which it gives the number, from 1.
+    std::function<int()> nextSequenceStep;
 };
 
 // The "T" payload, and `columns.sequenceStart` set by what it asks for. None, where possible in silence, when
@@ -57,6 +60,13 @@ std::vector<const CIndexInfo*> CheckedConditions(const std::vector<const CIndexI
 // with `count`, then one block for each of `blocks`.
 std::string ComposeConditionSet(const HeaderSource& header, std::string_view expression, int count,
                                 const std::vector<const CIndexInfo*>& blocks);
+
+// A "T" payload without a prior result.
+std::string ComposeStart(host::WindowHandle window, char scope, const std::string& conditionSet,
+                         const std::vector<std::string>& fids);
+
+// The header of a "T" payload with as many blocks as it tells; what is missing of them is left out.
+std::string_view ConditionSetIn(std::string_view payload);
 
 // The count and the FIDs as a request lists them.
 std::string ComposeFidList(const std::vector<std::string>& fids);

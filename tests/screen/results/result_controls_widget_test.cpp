@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/panes/progress_label_widget.h"
+#include "screen/results/code_list_button_widget.h"
 #include "screen/results/result_flow.h"
 #include "screen/results/result_grid_view.h"
 #include "screen/results/result_tabs_widget.h"
@@ -42,7 +43,7 @@ protected:
     CNVTab tabs{&screen};
     QComboBox scope{&screen};
     QPushButton next{&screen};
-    QPushButton codeList{&screen};
+    CodeListButton codeList{lists, &screen};
     QLabel total{&screen};
     QLabel received{&screen};
     ProgressLabel progress{&screen};

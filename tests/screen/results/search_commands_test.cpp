@@ -89,6 +89,26 @@ TEST_F(SearchCommandsTest, ASearchReleasesTheLastOneUnderItsHandle) {
     EXPECT_EQ(Sent(), Texts{"17 Z00000020nv3787  99"});
 }
 
+TEST_F(SearchCommandsTest, AResultKeepsWhatItWasSearchedWith) {
+    condition.m_strDescription = "five days";
+    inputs.targetLabel = "<all>";
+    inputs.scope = SearchScope::Sequential;
+    inputs.nextSequenceStep = [] { return 1; };
+    commands.Start();
+    const std::string payload = ParseRequestRecord(communication.sent.back().records.at(0))->payload;
+    AnswerSearch();
+    const SearchedSet& searched = flow.ActiveResult()->searched;
+    EXPECT_EQ(searched.conditionSet, payload.substr(10, 828 + 71));
+    EXPECT_EQ(searched.conditionTexts, Texts{"A  five days"});
+    EXPECT_EQ(searched.targetLabel, "<all>");
+
+    inputs.nextSequenceStep = [] { return 0; };
+    inputs.conditions.clear();
+    commands.Start();
+    EXPECT_FALSE(channel.Busy()) << "refused: nothing was sent";
+    EXPECT_EQ((links.tags[{"CS_RESULT", "CONDSET"}]), searched.conditionSet);
+}
+
 TEST_F(SearchCommandsTest, AnUnsetTargetIsToldAndNothingIsSent) {
     inputs.header.target.Upjong = 0;
     commands.Start();

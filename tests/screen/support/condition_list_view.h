@@ -13,13 +13,15 @@ class ConditionListView : public ConditionView {
 public:
     void FillConditionGrid(const ConditionList& conditions) override {
         rows.clear();
+        marks.clear();  // with the rows that had them
         for (const auto& condition : conditions) rows += Mark(*condition);
     }
     void UpdateRow(int row, const CIndexInfo& condition) override {
         rows.at(static_cast<std::size_t>(row - 1)) = Mark(condition);
     }
     void FocusRow(int row) override { focusedRow = row; }
-    void ClearSequenceMarks() override {}
+    void MarkSequenceRow(int row) override { marks += std::to_string(row); }
+    void ClearSequenceMarks() override { marks.clear(); }
     std::string ExpressionText() const override { return expression; }
     void SetExpressionText(const std::string& text) override { expression = text; }
     void ShowCondition(const CIndexInfo& condition, bool shown) override {
@@ -39,6 +41,7 @@ public:
 
     // One letter a row; a small one for an unchecked condition.
     std::string rows;
+    std::string marks;  // rows that the sequential search has reached
     std::string expression;
     const CIndexInfo* panel = nullptr;      // the condition in the panel
     const CIndexInfo* refreshed = nullptr;  // the last one that it was given

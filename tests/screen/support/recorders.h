@@ -114,6 +114,52 @@ public:
     std::function<bool(const std::string& dialog, void* object)> onRun;
 };
 
+// Answers with `changed`, after the test has done with the screen what the dialog would.
+class RecordingSettings : public host::SettingsDialog {
+public:
+    int Run(host::WindowHandle view, host::GridColumns& grid, int) override {
+        views.push_back(view);
+        if (onRun) onRun(grid);
+        return changed;
+    }
+
+    std::vector<host::WindowHandle> views;
+    std::function<void(host::GridColumns& grid)> onRun;  // what the user does in the dialog
+    int changed = 0;
+};
+
+class RecordingInterests : public host::InterestGroups {
+public:
+    struct Saved {
+        host::WindowHandle window = 0;
+        std::vector<std::string> codes;
+        host::WindowHandle mainWindow = 0;
+        int number = 0;  // always 1
+    };
+
+    int SaveInterest(host::WindowHandle window, const std::vector<std::string>& codes,
+                     host::WindowHandle mainWindow, int number) override {
+        saved.push_back({window, codes, mainWindow, number});
+        return 1;
+    }
+
+    std::vector<Saved> saved;
+};
+
+class RecordingSheets : public host::SheetExport {
+public:
+    struct Saved {
+        host::Sheet sheet;
+        std::vector<host::SheetNote> notes;
+    };
+
+    void Save(const host::Sheet& sheet, const std::vector<host::SheetNote>& notes) override {
+        saved.push_back({sheet, notes});
+    }
+
+    std::vector<Saved> saved;
+};
+
 // A clock that stands until it is turned.
 class ManualClock : public host::Clock {
 public:

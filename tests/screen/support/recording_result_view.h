@@ -46,12 +46,30 @@ public:
         log.push_back("empty");
         cells.clear();
     }
+    int GetRowCount() const override { return static_cast<int>(cells.size()) + 1; }
+    std::string GetValue(int row, int column) const override {
+        const bool inside = row >= 2 && row <= GetRowCount() && column >= 1 && column <= GetColCount();
+        return inside ? cells[static_cast<std::size_t>(row) - 2][static_cast<std::size_t>(column) - 1] : "";
+    }
+    int FindColumnByTag(const std::string& tag) const override {
+        for (int column = 1; column <= GetColCount(); ++column) {
+            if (At(column).tag == tag) return column;
+        }
+        return 0;
+    }
 
-    void ClearSelection() override { log.push_back("unselect"); }
+    void ClearSelection() override {
+        log.push_back("unselect");
+        selectedRows.clear();
+    }
     void ScrollCellInView(int row, int column) override {
         log.push_back("scroll " + std::to_string(row) + "," + std::to_string(column));
     }
-    void SelectRow(int row) override { log.push_back("select " + std::to_string(row)); }
+    void SelectRow(int row) override {
+        log.push_back("select " + std::to_string(row));
+        selectedRows = {row};
+    }
+    std::vector<int> GetSelectedRows() const override { return selectedRows; }
 
     int TabCount() const override { return static_cast<int>(tabs.size()); }
     int SelectedTab() const override { return selectedTab; }
@@ -69,7 +87,10 @@ public:
         total = shownTotal;
         received = shownReceived;
     }
-    void SetCodeListTitle(const std::string& title) override { codeListTitle = title; }
+    void SetCodeList(const std::string& title, const std::vector<std::string>& codes) override {
+        codeListTitle = title;
+        codeList = codes;
+    }
     void ShowNoResultNotice() override { ++notices; }
 
     Column& At(int column) { return columns.at(static_cast<std::size_t>(column) - 1); }
@@ -90,6 +111,8 @@ public:
     std::vector<std::string> tabs;
     std::vector<std::string> log;
     std::string codeListTitle;
+    std::vector<std::string> codeList;
+    std::vector<int> selectedRows;
     int selectedTab = -1;
     int scope = 0;
     int total = -1;

@@ -16,11 +16,10 @@
 #include "screen/transactions/reply_record.h"
 #include "screen/transactions/request_record.h"
 #include "tests/screen/support/condition_files.h"
+#include "tests/screen/support/link_journal.h"
 #include "tests/screen/support/recorders.h"
 
 namespace jogeon::test {
-
-using Journal = std::vector<std::string>;
 
 // The window of the host: it notes the messages that reach it.
 class RecordingFrame : public QWidget {
@@ -44,9 +43,10 @@ protected:
         if (!message) return QWidget::event(event);
         received.push_back({message->number, message->wParam, message->lParam});
         if (message->number == host::kHostQuery) {
-            journal_.push_back("query");
             std::memcpy(reinterpret_cast<char*>(message->lParam) + 2, &queryAnswer, sizeof queryAnswer);
         }
+        const std::string entry = DescribeMessage(message->number, message->wParam, message->lParam);
+        if (!entry.empty()) journal_.push_back(entry);
         return true;
     }
 
@@ -68,28 +68,6 @@ public:
     // The payload of the last request, empty if there was none.
     std::string LastPayload() const {
         return sent.empty() ? std::string() : ParseRequestRecord(sent.back().records.at(0))->payload;
-    }
-
-private:
-    Journal& journal_;
-};
-
-class JournalLinks : public RecordingLinkStore {
-public:
-    explicit JournalLinks(Journal& journal) : journal_(journal) {}
-
-    std::string NVLink_GetLinkTagData(const std::string& mainKey, const std::string& tag,
-                                      int* found) override {
-        journal_.push_back("tag " + tag);
-        return RecordingLinkStore::NVLink_GetLinkTagData(mainKey, tag, found);
-    }
-    std::uint8_t NVLink_GetNewMajorID(host::WindowHandle window) override {
-        journal_.push_back("major id taken");
-        return RecordingLinkStore::NVLink_GetNewMajorID(window);
-    }
-    void NVLink_DeleteMajorID(std::uint8_t id) override {
-        journal_.push_back("major id " + std::to_string(id) + " given back");
-        RecordingLinkStore::NVLink_DeleteMajorID(id);
     }
 
 private:
@@ -141,7 +119,8 @@ public:
         std::filesystem::create_directories(folder.Path() / "User");
         links.configurationFolder = home;
         links.tags[{"SharedMainKey", "USER_ID"}] = "trader";
-        host::Install({&communication, &links, &codeLists, &colors, &questions, &clock});
+        host::Install({&communication, &links, &codeLists, &colors, &questions, &clock, &settings, &interests,
+                       &sheets});
         frame.resize(176 + 585, 548);
         frame.show();
     }
@@ -174,6 +153,9 @@ public:
     NoCodeLists codeLists;
     ScriptedQuestions questions;
     ManualClock clock;
+    RecordingSettings settings;
+    RecordingInterests interests;
+    RecordingSheets sheets;
     RecordingFrame frame;
     std::unique_ptr<ScreenFrame> screenFrame;
 };
