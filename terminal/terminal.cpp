@@ -94,6 +94,7 @@ Terminal::Terminal(const Options& options, std::vector<ScreenKind> screens, host
       ownQuestions_(questions ? nullptr : ChooseQuestions(options, window_)),
       questions_(questions ? *questions : *ownQuestions_),
       workplace_{options.user.toStdString(), *service_, links_, questions_, workers_},
+      settings_(links_, questions_),
       desk_(std::make_unique<ScreenDesk>(window_, workplace_, state_, std::move(screens))),
       menu_(window_, desk_->Known(), [this] { return desk_->OpenOnes(); }),
       watch_(workplace_, clock_, window_.Foot()) {
@@ -120,8 +121,8 @@ Terminal::~Terminal() {
 // The settings dialog, the interest groups and the sheets are built before this, behind the workplace, and
 // stand here in this order.
 void Terminal::InstallServices() {
-    host::Install(
-        {&communication_, &links_, &codeLists_, &colors_, &questions_, &clock_, nullptr, nullptr, nullptr});
+    host::Install({&communication_, &links_, &codeLists_, &colors_, &questions_, &clock_, &settings_, nullptr,
+                   nullptr});
 }
 
 void Terminal::WireTroubles() {

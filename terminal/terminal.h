@@ -20,6 +20,7 @@
 #include "terminal/remote_troubles.h"
 #include "terminal/screens/screen_desk.h"
 #include "terminal/service_watch.h"
+#include "terminal/settings/settings_dialog_host.h"
 #include "terminal/theme/theme_switch.h"
 #include "terminal/user_state.h"
 #include "terminal/window/main_menu.h"
@@ -66,6 +67,7 @@ private:
     host::Questions& questions_;
     QThreadPool workers_;
     const Workplace workplace_;
+    SettingsDialogHost settings_;
     std::unique_ptr<ScreenDesk> desk_;
     MainMenu menu_;
     ServiceWatch watch_;

@@ -8,11 +8,6 @@
 #include "screen/text/cp949.h"
 
 namespace jogeon {
-namespace {
-
-constexpr int kResultsOnlyMode = 2;  // the layout that shows no panel
-
-}  // namespace
 
 void ConditionEditor::Clear() {
     DropAll();
@@ -124,7 +119,7 @@ bool ConditionEditor::TakeLetterOut(char letter) {
 }
 
 void ConditionEditor::Show(int index) {
-    view_.ShowCondition(At(index), settings_.expandMode != kResultsOnlyMode);
+    view_.ShowCondition(At(index), settings_.expandMode != kResultsOnly);
 }
 
 void ConditionEditor::Changed() {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QToolTip>
+#include <algorithm>
 #include <iterator>
 
 #include "screen/fbgrid/fb_grid_geometry.h"
@@ -182,6 +183,17 @@ bool ConditionGrid::event(QEvent* event) {
 
 void ConditionGrid::resizeEvent(QResizeEvent*) {
     cells_.setGeometry(rect());
+    FitContent();
+}
+
+// What the columns leave beside the scroll bar is the descriptions'.
+void ConditionGrid::FitContent() {
+    int others = 0;
+    for (int col = 0; col < kConditionColumns; ++col) {
+        if (col != kColumnContent) others += cells_.GetColWidth(col);
+    }
+    const int room = cells_.maximumViewportSize().width() - others;
+    cells_.SetColWidth(kColumnContent, std::max(room, kColumns[kColumnContent].width));
 }
 
 void ConditionGrid::OnNotify(const FBGridNotify& notify) {

@@ -74,6 +74,7 @@ protected:
 private:
     void PaintLetterBack(int row, FBColour colour);
     void MakeHeader();
+    void FitContent();
     void MakeCommands();
     void OnNotify(const FBGridNotify& notify);
     void OnEnter(CCellID cell);

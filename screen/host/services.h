@@ -144,11 +144,15 @@ class SettingsDialog {
 public:
     static constexpr int kReloadGrid = 0x10;
 
+    // Pages to open at.
+    static constexpr int kFirstPage = 0;
+    static constexpr int kColumnsPage = 1;
+
     virtual ~SettingsDialog() = default;
 
     // What was changed: 0 for nothing, else flags, kReloadGrid among them when the grid's columns were chosen
     // anew. `view` is the screen.
-    virtual int Run(WindowHandle view, GridColumns& grid, int) = 0;
+    virtual int Run(WindowHandle view, GridColumns& grid, int page) = 0;
 };
 
 // Interest groups of the user.

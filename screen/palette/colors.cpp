@@ -93,9 +93,13 @@ Theme CurrentTheme() {
     return theme;
 }
 
-ColorNumber ColorOf(Color color) {
+ColorNumber ColorOf(Color color, Theme of) {
     const Entry& entry = kTable[static_cast<std::size_t>(color)];
-    return theme == Theme::Dark ? entry.dark : entry.light;
+    return of == Theme::Dark ? entry.dark : entry.light;
+}
+
+ColorNumber ColorOf(Color color) {
+    return ColorOf(color, theme);
 }
 
 }  // namespace jogeon

@@ -81,5 +81,6 @@ void SetTheme(Theme theme);
 Theme CurrentTheme();
 
 ColorNumber ColorOf(Color color);
+ColorNumber ColorOf(Color color, Theme of);
 
 }  // namespace jogeon

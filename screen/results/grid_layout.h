@@ -26,6 +26,8 @@ struct GridColumn {
     int width = kDefaultColumnWidth;  // pixels
     bool hidden = false;
     CellFormat format = CellFormat::Text;
+
+    friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };
 
 using GridLayout = std::vector<GridColumn>;

@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/contrast.h"
 #include "screen/results/result_model_qt.h"
 
 namespace jogeon {
@@ -27,6 +28,11 @@ int HorizontalFlag(Placing placing) {
             return Qt::AlignRight;
     }
     return Qt::AlignLeft;
+}
+
+// Counted from 1, as a reader does.
+bool IsOdd(int row) {
+    return row % 2 == 0;
 }
 
 bool Fits(const QStyleOptionViewItem& option, const QString& text) {
@@ -53,7 +59,7 @@ void ResultCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     // A number that is cut without a sign of it would be read as another number.
     if (!Fits(option, text)) text = option.fontMetrics.elidedText(text, Qt::ElideRight, rect.width());
     painter->setFont(option.font);
-    painter->setPen(ToQColor(model_.TextColor(index.row(), index.column())));
+    painter->setPen(InkOf(option, index));
     painter->drawText(rect, HorizontalFlag(model_.PlacingOfColumn(index.column())) | Qt::AlignVCenter, text);
 }
 
@@ -70,9 +76,20 @@ bool ResultCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
 
 QColor ResultCellDelegate::BackOf(const QStyleOptionViewItem& option, int row) const {
     if (option.state & QStyle::State_Selected) return ToQColor(Color::GridSelectedRow);
-    const bool odd = row % 2 == 0;  // counted from 1, as a reader does
-    const ColorNumber chosen = odd ? odd_ : even_;
-    return chosen != 0 ? ToQColor(chosen) : ToQColor(odd ? Color::GridOddRow : Color::GridEvenRow);
+    const ColorNumber chosen = ChosenBack(row);
+    return chosen != 0 ? ToQColor(chosen) : ToQColor(IsOdd(row) ? Color::GridOddRow : Color::GridEvenRow);
+}
+
+ColorNumber ResultCellDelegate::ChosenBack(int row) const {
+    return IsOdd(row) ? odd_ : even_;
+}
+
+// On a row colour of the user's choice the ink of the other theme may be the one to read.
+QColor ResultCellDelegate::InkOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const Color ink = model_.TextColor(index.row(), index.column());
+    const ColorNumber chosen = ChosenBack(index.row());
+    if (chosen == 0 || option.state & QStyle::State_Selected) return ToQColor(ink);
+    return ToQColor(ReadableOn(chosen, ink));
 }
 
 void ResultCellDelegate::PaintLines(QPainter& painter, const QRect& rect) const {

@@ -29,6 +29,8 @@ public:
 
 private:
     QColor BackOf(const QStyleOptionViewItem& option, int row) const;
+    QColor InkOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    ColorNumber ChosenBack(int row) const;  // 0 where the user has chosen none
     void PaintLines(QPainter& painter, const QRect& rect) const;
 
     const ResultModel& model_;

@@ -1,5 +1,6 @@
 #include "screen/results/result_grid_view.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -57,6 +58,10 @@ void ResultGrid::SetUpHeaders() {
     columns.setMinimumSectionSize(kMinColumnWidth);
     columns.setMaximumSectionSize(kMaxColumnWidth);
     connect(&columns, &QHeaderView::sectionResized, this, &ResultGrid::OnColumnResized);
+    auto* choose = new QAction(QStringLiteral("열 설정..."), this);
+    connect(choose, &QAction::triggered, this, &ResultGrid::ColumnSettingsAsked);
+    columns.addAction(choose);
+    columns.setContextMenuPolicy(Qt::ActionsContextMenu);
     SetColumnSizing(false);
     SetRowHeight();
 }
@@ -128,6 +133,7 @@ void ResultGrid::OnColumnResized(int section, int, int newWidth) {
         return;
     }
     model_->SetWidth(section, newWidth);
+    emit ColumnSized(section + 1, newWidth);
 }
 
 // --- rows

@@ -73,6 +73,10 @@ public:
     void CopySelection() const;
 
 signals:
+    // The user has dragged a column's edge. Pixels.
+    void ColumnSized(int column, int width);
+    // The user wants to choose columns.
+    void ColumnSettingsAsked();
     void RowClicked(int row, int column);
     void RowDoubleClicked(int row, int column);
     // After the grid has acted on the key, so that the selection is the new one. A Qt::Key.

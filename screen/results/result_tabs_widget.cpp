@@ -12,7 +12,8 @@ QString TabStyle(int padding) {
     return QStringLiteral(
                "QTabBar::tab { background: %1; color: %2; border: 1px solid %3; padding: 2px %6px;"
                " margin-right: 2px; }"
-               "QTabBar::tab:selected { background: %4; color: %5; border-bottom-color: %4; }")
+               "QTabBar::tab:selected { background: %4; color: %5; border-bottom-color: %4; }"
+               "QTabBar::tab:selected:bottom { border-top-color: %4; border-bottom-color: %3; }")
         .arg(ToQColor(Color::TabBack).name(), ToQColor(Color::TabText).name(),
              ToQColor(Color::TabEdge).name(), ToQColor(Color::TabSelectedBack).name(),
              ToQColor(Color::TabSelectedText).name())

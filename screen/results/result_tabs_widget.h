@@ -1,4 +1,4 @@
-// A row of tabs, as over the result grid, one for each result. Labels are CP949; tabs count from 0.
+// A row of tabs, as under the result grid, one for each result. Labels are CP949; tabs count from 0.
 //
 // Operations tell nobody: currentChanged reaches a listener only when the user has chosen a tab.
 #pragma once

@@ -1,7 +1,5 @@
 #include "screen/settings/screen_settings.h"
 
-#include <span>
-
 #include "screen/files/data_paths.h"
 #include "screen/files/profile_text.h"
 #include "screen/text/bytes.h"
@@ -19,13 +17,16 @@ constexpr std::size_t kShortNumber = 3;  // characters that a small number is re
 constexpr std::size_t kColorNumber = 9;
 
 using Take = void (*)(ScreenSettings& settings, const std::string& text);
+using Text = std::string (*)(const ScreenSettings& settings);
 
-// One setting: where it stands, what it is without a file, and where its text goes.
+// One setting: where it stands, what it is without a file, where its text goes and comes from.
 struct Setting {
+    SettingGroup group;
     const char* section;
     const char* key;
     const char* defaultText;
     Take take;
+    Text text;
 };
 
 template <bool ScreenSettings::*Flag>
@@ -53,29 +54,37 @@ void TakeNumber(ScreenSettings& settings, const std::string& text) {
     settings.*Number = Atoi(text);
 }
 
-constexpr Setting kGridSettings[] = {
-    {kGridSection, "bChangeSize", "0", TakeFlag<&ScreenSettings::changeSize>},
-    {kGridSection, "oddColor", "", TakeColor<&ScreenSettings::oddColor>},
-    {kGridSection, "evenColor", "", TakeColor<&ScreenSettings::evenColor>},
-    {kGridSection, "lineBorder", "0", TakeFlag<&ScreenSettings::lineBorder>},
-    {kGridSection, "bKeyArrow", "1", TakeFlagUnlessZero<&ScreenSettings::keyArrow>},
-    {kInterestSection, "RegLink", "0", TakeNumber<&ScreenSettings::regLink>},
-    {kInterestSection, "ConfirmOverwrite", "0", TakeNumber<&ScreenSettings::confirmOverwrite>},
+template <auto Member>
+std::string TextOf(const ScreenSettings& settings) {
+    return Decimal(static_cast<int>(settings.*Member));
+}
+
+using S = ScreenSettings;
+using enum SettingGroup;
+
+constexpr Setting kSettings[] = {
+    {Grid, kGridSection, "bChangeSize", "0", TakeFlag<&S::changeSize>, TextOf<&S::changeSize>},
+    {Grid, kGridSection, "oddColor", "", TakeColor<&S::oddColor>, TextOf<&S::oddColor>},
+    {Grid, kGridSection, "evenColor", "", TakeColor<&S::evenColor>, TextOf<&S::evenColor>},
+    {Grid, kGridSection, "lineBorder", "0", TakeFlag<&S::lineBorder>, TextOf<&S::lineBorder>},
+    {Grid, kGridSection, "bKeyArrow", "1", TakeFlagUnlessZero<&S::keyArrow>, TextOf<&S::keyArrow>},
+    {Interest, kInterestSection, "RegLink", "0", TakeNumber<&S::regLink>, TextOf<&S::regLink>},
+    {Interest, kInterestSection, "ConfirmOverwrite", "0", TakeNumber<&S::confirmOverwrite>,
+     TextOf<&S::confirmOverwrite>},
+    {Conditions, kConditionSection, "Confirm", "1", TakeShortNumber<&S::confirm>, TextOf<&S::confirm>},
+    {Conditions, kConditionSection, "NameConfirm", "0", TakeShortNumber<&S::nameConfirm>,
+     TextOf<&S::nameConfirm>},
+    {Conditions, kConditionSection, "DelConfirm", "1", TakeShortNumber<&S::delConfirm>,
+     TextOf<&S::delConfirm>},
+    {Conditions, kConditionSection, "InitResult", "1", TakeShortNumber<&S::initResult>,
+     TextOf<&S::initResult>},
+    {Conditions, kConditionSection, "ShowSequence", "0", TakeShortNumber<&S::showSequence>,
+     TextOf<&S::showSequence>},
+    {Layout, kConditionSection, "Expand", "1", TakeShortNumber<&S::expandMode>, TextOf<&S::expandMode>},
 };
 
-constexpr Setting kConditionSettings[] = {
-    {kConditionSection, "Confirm", "1", TakeShortNumber<&ScreenSettings::confirm>},
-    {kConditionSection, "NameConfirm", "0", TakeShortNumber<&ScreenSettings::nameConfirm>},
-    {kConditionSection, "DelConfirm", "1", TakeShortNumber<&ScreenSettings::delConfirm>},
-    {kConditionSection, "InitResult", "1", TakeShortNumber<&ScreenSettings::initResult>},
-    {kConditionSection, "ShowSequence", "0", TakeShortNumber<&ScreenSettings::showSequence>},
-    {kConditionSection, "Expand", "1", TakeShortNumber<&ScreenSettings::expandMode>},
-};
-
-void ReadAll(const std::filesystem::path& file, std::span<const Setting> table, ScreenSettings& settings) {
-    for (const Setting& setting : table) {
-        setting.take(settings, ReadProfileText(file, setting.section, setting.key, setting.defaultText));
-    }
+void WriteSetting(const std::filesystem::path& file, const Setting& setting, const ScreenSettings& settings) {
+    WriteProfileText(file, setting.section, setting.key, setting.text(settings));
 }
 
 }  // namespace
@@ -83,18 +92,25 @@ void ReadAll(const std::filesystem::path& file, std::span<const Setting> table, 
 SettingsFile::SettingsFile(host::LinkStore& links, const std::string& userId)
     : path_(GetDataFilePath(links, kUserFolder, userId + "_SaveIndex0.dat")) {}
 
-void SettingsFile::ReadGridSettings(ScreenSettings& settings) const {
-    ReadAll(path_, kGridSettings, settings);
+void SettingsFile::Read(SettingGroup group, ScreenSettings& settings) const {
+    for (const Setting& setting : kSettings) {
+        if (setting.group != group) continue;
+        setting.take(settings, ReadProfileText(path_, setting.section, setting.key, setting.defaultText));
+    }
 }
 
-void SettingsFile::ReadConditionSettings(ScreenSettings& settings) const {
-    ReadAll(path_, kConditionSettings, settings);
+void SettingsFile::Write(SettingGroup group, const ScreenSettings& settings) const {
+    for (const Setting& setting : kSettings) {
+        if (setting.group == group) WriteSetting(path_, setting, settings);
+    }
 }
 
-// A file that can't be written loses the setting, without a message.
-void SettingsFile::WriteInterestSettings(const ScreenSettings& settings) const {
-    WriteProfileText(path_, kInterestSection, "RegLink", Decimal(settings.regLink));
-    WriteProfileText(path_, kInterestSection, "ConfirmOverwrite", Decimal(settings.confirmOverwrite));
+void SettingsFile::WriteChanges(SettingGroup group, const ScreenSettings& before,
+                                const ScreenSettings& after) const {
+    for (const Setting& setting : kSettings) {
+        const bool changed = setting.group == group && setting.text(before) != setting.text(after);
+        if (changed) WriteSetting(path_, setting, after);
+    }
 }
 
 int SettingsFile::LeftPaneWidth(const std::string& key) const {

@@ -19,7 +19,11 @@ std::int32_t Get(const std::byte* block, std::size_t offset) {
 }  // namespace
 
 void FillSettingsBlock(const ScreenSettings& settings, std::byte* block) {
+    Put(block, settings_block::kColumnSizing, settings.changeSize ? 1 : 0);
     Put(block, settings_block::kAlwaysOne, 1);
+    Put(block, settings_block::kNoLines, settings.lineBorder ? 1 : 0);
+    Put(block, settings_block::kOddColor, static_cast<std::int32_t>(settings.oddColor));
+    Put(block, settings_block::kEvenColor, static_cast<std::int32_t>(settings.evenColor));
     Put(block, settings_block::kRegLink, settings.regLink);
     Put(block, settings_block::kConfirmOverwrite, settings.confirmOverwrite);
 }

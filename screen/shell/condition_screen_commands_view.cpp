@@ -15,13 +15,6 @@
 namespace jogeon {
 namespace {
 
-constexpr int kExpressionGrowth = 40;  // pixels that the enlarged expression box reaches further down
-
-// Controls that the enlarged expression box covers.
-constexpr int kButtonRow[] = {
-    control::kScope, control::kSearch,       control::kNextPage, control::kClearResults, control::kRealTime,
-    control::kChart, control::kInterestSave, control::kSettings, control::kExpandMode,   control::kCodeList};
-
 constexpr const char* kScopes[] = {"전체검색", "결과내검색", "결과외검색", "순차검색"};
 
 // Set, add, subtract, as the condition editor numbers them.
@@ -37,6 +30,7 @@ void ConditionScreen::FillScopes() {
 
 void ConditionScreen::WireCommands() {
     WireSavedCommands(form_, saved_);
+    WireLayoutCommands();
     form_.OnClick(control::kChangeTarget, [this] { ChangeTarget(); });
     form_.OnClick(control::kSearch, [this] { search_.Start(); });
     form_.OnClick(control::kNextPage, [this] { search_.NextPage(); });
@@ -54,7 +48,6 @@ void ConditionScreen::WireCommands() {
     form_.OnClick(control::kExpressionHelp, [this] { OnExpressionHelp(*services_.questions); });
     form_.OnClick(control::kSaveConditionsAsSheet, [this] { SaveConditionsAsSheet(); });
     form_.OnClick(control::kLeftPaneToggle, [this] { ToggleLeftPane(); });
-    form_.OnClick(control::kEnlargeExpression, [this] { ToggleExpressionHeight(); });
     connect(&expressionEdit_, &ExpressionEdit::Edited, this, [this] { OnExpressionChanged(); });
     connect(&resultTabs_, &QTabBar::currentChanged, this, [this](int tab) { results_.OnTabSelected(tab); });
     connect(&form_.ComboAt(control::kScope), &QComboBox::activated, this, [this](int scope) {
@@ -72,7 +65,7 @@ void ConditionScreen::OnPickIndex(const CIndexInfo& info, const FieldArray* fiel
     picked_ = std::make_unique<CIndexInfo>(info);
     picked_->CopyFields(fields);
     panel_.ShowIndex(true, picked_.get(), PanelMode::New);
-    panel_.show();
+    panel_.setVisible(settings_.expandMode != kResultsOnly);
 }
 
 void ConditionScreen::OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) {
@@ -103,17 +96,6 @@ void ConditionScreen::ToggleLeftPane() {
     leftPaneClosed_ = !leftPaneClosed_;
     host::SendMessage(splitterWindow_, host::kLeftPaneShown, leftPaneClosed_ ? 0 : 1, 0);
     form_.ButtonAt(control::kLeftPaneToggle).setIcon(LeftPaneIcon(leftPaneClosed_));
-}
-
-void ConditionScreen::ToggleExpressionHeight() {
-    QAbstractButton& button = form_.ButtonAt(control::kEnlargeExpression);
-    const bool enlarge = button.text() == "▼";
-    button.setText(enlarge ? "▲" : "▼");
-    expressionEdit_.resize(expressionEdit_.width(),
-                           expressionEdit_.height() + (enlarge ? kExpressionGrowth : -kExpressionGrowth));
-    for (const int id : kButtonRow) form_.At(id).setVisible(!enlarge);
-    if (enlarge) expressionEdit_.raise();
-    expressionEdit_.setFocus();
 }
 
 void ConditionScreen::ChangeTarget() {

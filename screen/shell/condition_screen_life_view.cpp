@@ -1,7 +1,6 @@
 // The two orders of the screen's life: what start-up does, and what shut-down does.
 #include <array>
 #include <cstring>
-#include <system_error>
 
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
@@ -70,7 +69,9 @@ void ConditionScreen::QueryHost() {
 }
 
 void ConditionScreen::ReadGridSettings() {
-    SettingsFile(*services_.links, userId_).ReadGridSettings(settings_);
+    const SettingsFile file(*services_.links, userId_);
+    file.Read(SettingGroup::Grid, settings_);
+    file.Read(SettingGroup::Interest, settings_);
 }
 
 void ConditionScreen::MakeBackBrush() {
@@ -93,23 +94,6 @@ void ConditionScreen::BuildConditionGrid() {
     conditionGrid_.SetLineColor(services_.colors->GetColor(kGridLineColor, 0));
 }
 
-// The user's layout file, or the template if he has none; a file that can't be read leaves an empty grid.
-void ConditionScreen::BuildResultGrid() {
-    host::LinkStore& links = *services_.links;
-    std::filesystem::path layout = GetDataFilePath(links, kUserFolder, userId_ + "_0150TempGrid01.dlg");
-    std::error_code error;
-    if (!std::filesystem::exists(layout, error)) {
-        layout = GetDataFilePath(links, "Screen/Dlg", "0150TempGrid.dlg");
-    }
-    resultGrid_.ApplyLayout(ReadGridLayout(layout));
-    columns_ = LoadColumnTable(GetDataFilePath(links, kSystemFolder, "XcsFid.dat"));
-    results_.ApplyLayout();
-    resultGrid_.SetColumnSizing(settings_.changeSize);
-    resultGrid_.SetGridLines(settings_.lineBorder ? 0 : 2);
-    resultGrid_.SetRowColors(settings_.oddColor, settings_.evenColor);
-    resultGrid_.Redraw();
-}
-
 void ConditionScreen::PlacePanel() {
     constexpr int kInset = 2;
     panel_.setGeometry(panel_.geometry().adjusted(kInset, kInset, -kInset, -kInset));
@@ -124,8 +108,12 @@ void ConditionScreen::RequestConditionList() {
 }
 
 void ConditionScreen::ReadConditionSettings() {
-    SettingsFile(*services_.links, userId_).ReadConditionSettings(settings_);
+    const SettingsFile file(*services_.links, userId_);
+    file.Read(SettingGroup::Conditions, settings_);
+    file.Read(SettingGroup::Layout, settings_);
     treeView_->ShowNumbers(settings_.showSequence != 0);
+    layout_.Start(settings_.expandMode);
+    TakeLayoutMode();
 }
 
 void ConditionScreen::TakeResultGridRect() {
@@ -154,7 +142,8 @@ void ConditionScreen::DropResults() {
 
 // To the file they were read from, though the user may have logged off by now.
 void ConditionScreen::WriteSettings() {
-    SettingsFile(*services_.links, userId_).WriteInterestSettings(settings_);
+    SettingsFile(*services_.links, userId_).Write(SettingGroup::Interest, settings_);
+    if (columnChoice_.Changed()) SaveResultLayout();
 }
 
 }  // namespace jogeon

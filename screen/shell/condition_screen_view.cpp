@@ -17,9 +17,6 @@
 namespace jogeon {
 namespace {
 
-// Second byte of the message by which the settings dialog hands its block back.
-constexpr std::uintptr_t kSettingsAgreed = 3;
-
 QString Shown(const std::string& cp949) {
     return QString::fromStdString(ToUtf8(cp949));
 }
@@ -37,6 +34,8 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       conditionGrid_(control::kConditionGrid),
       resultGrid_(*services_.codeLists),
       panel_(handle_, *services_.questions, *services_.links),
+      formWindows_(form_, panel_),
+      layout_(formWindows_),
       channel_(*services_.communication, *services_.clock, *services_.questions, [this] { RefreshCursor(); }),
       conditionsPane_(conditionGrid_, expressionEdit_, panel_),
       editor_(conditionsPane_, *services_.questions, settings_),
@@ -78,6 +77,7 @@ void ConditionScreen::PlaceControls() {
     panel_.hide();
     form_.Place(conditionGrid_, control::kConditionGridArea, control::kConditionGridArea);
     form_.Place(expressionEdit_, control::kExpression, control::kExpression);
+    resultTabs_.setShape(QTabBar::RoundedSouth);
     form_.Place(resultTabs_, control::kResultTabs, control::kResultTabs);
     form_.Place(resultGrid_, control::kResultGrid, control::kResultGrid);
     form_.Place(codeListButton_, control::kCodeList, control::kCodeList);
@@ -154,7 +154,7 @@ bool ConditionScreen::event(QEvent* event) {
             message->result = 1;
             break;
         case host::kSettingsTaken:
-            if (((message->wParam >> 8) & 0xff) == kSettingsAgreed) {
+            if (((message->wParam >> 8) & 0xff) == settings_block::kAgreed) {
                 TakeSettingsBlock(reinterpret_cast<const std::byte*>(message->lParam), settings_);
             }
             message->result = 1;
@@ -168,13 +168,9 @@ bool ConditionScreen::event(QEvent* event) {
     return true;
 }
 
-// The result grid follows the view, but never beyond its first size.
 void ConditionScreen::resizeEvent(QResizeEvent*) {
     form_.resize(std::max(width(), kFormWidth), std::max(height(), kFormHeight));
-    if (resultGridRect_.width() <= 0 || width() <= 0 || height() <= 0) return;
-    QRect rect = resultGrid_.geometry();
-    rect.setRight(std::min(width() - 1, resultGridRect_.right()));
-    resultGrid_.setGeometry(rect);
+    FitResultGrid();
 }
 
 void ConditionScreen::ChangeHost(host::WindowHandle mainWindow) {
@@ -212,7 +208,8 @@ void ConditionScreen::SelectBuy(bool buy) {
 void ConditionScreen::ShowTarget(const SearchTarget& target) {
     QLabel& label = form_.LabelAt(control::kTargetLabel);
     label.setText(Shown(target.m_strTargetLabel));
-    label.setToolTip(label.text());
+    const bool cut = label.sizeHint().width() > label.width();
+    label.setToolTip(cut ? label.text() : QString());
 }
 
 void ConditionScreen::EnableSavedCommands(bool enabled) {

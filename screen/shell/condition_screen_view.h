@@ -21,6 +21,7 @@
 #include "screen/panes/progress_label_widget.h"
 #include "screen/panes/tree_picks.h"
 #include "screen/results/code_list_button_widget.h"
+#include "screen/results/column_choice.h"
 #include "screen/results/host_main_window.h"
 #include "screen/results/result_controls_widget.h"
 #include "screen/results/result_flow.h"
@@ -31,7 +32,9 @@
 #include "screen/saved/saved_conditions.h"
 #include "screen/saved/saved_dialogs_qt.h"
 #include "screen/settings/screen_settings.h"
+#include "screen/shell/form_windows_qt.h"
 #include "screen/shell/screen_form_widget.h"
+#include "screen/shell/screen_layout.h"
 #include "screen/transactions/request_channel.h"
 #include "screen/transactions/result_columns.h"
 
@@ -103,10 +106,21 @@ private:
     void WireReplies();
     void WireLinks();
     void SaveResultSheet();
+
+    // Layouts, settings, columns.
+    void WireLayoutCommands();
+    void NextLayout();
+    void TakeLayoutMode();
+    void ToggleExpressionHeight();
+    void FitResultGrid();
+    void ChangeSettings(int page);
+    void ApplyGridSettings();
+    void ReloadResultGrid();
+    bool SaveResultLayout();
+
     void OnExpressionChanged();
     void SaveConditionsAsSheet();
     void ToggleLeftPane();
-    void ToggleExpressionHeight();
     void ChangeTarget();
     void ClearResultsCommand();
     void ChangeHost(host::WindowHandle mainWindow);
@@ -137,6 +151,8 @@ private:
     ConditionGrid conditionGrid_;
     ResultGrid resultGrid_;
     BBoxPanel panel_;
+    FormWindows formWindows_;
+    ScreenLayout layout_;
     std::unique_ptr<CIndexInfo> picked_;  // of the tree, while the panel may show it
     QBrush backBrush_;
     QRect resultGridRect_;
@@ -153,6 +169,7 @@ private:
     SavedDialogs savedDialogs_;
     SavedConditions saved_;
     ColumnTables columns_;
+    ColumnChoice columnChoice_{columns_};
     ResultControlsView resultControls_;
     ResultFlow results_;
     SearchCommands search_;

@@ -181,9 +181,12 @@ TEST(TargetCommandTest, ButtonOpensTheDialogOnTheScreensTarget) {
         return dialog->result() == QDialog::Accepted;
     };
     host.Control<QAbstractButton>(21026).click();
-    const auto& label = host.Control<QLabel>(21027);
+    auto& label = host.Control<QLabel>(21027);
     EXPECT_EQ("<업종대상(전체)><제외없음><6월결산>", label.text());
-    EXPECT_EQ(label.text(), label.toolTip());
+    EXPECT_EQ("", label.toolTip());
+    label.resize(60, label.height());
+    host.Control<QAbstractButton>(21026).click();
+    EXPECT_EQ(label.text(), label.toolTip()) << "a label that is cut can be read whole";
     host.questions.onRun = nullptr;  // the user cancels
     host.Control<QAbstractButton>(21026).click();
     EXPECT_EQ("<업종대상(전체)><제외없음><6월결산>", label.text());
