@@ -3,13 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <span>
 
 #include "screen/text/bytes.h"
-#include "server/engine/last_day.h"
-#include "server/engine/news_groups.h"
 
 namespace jogeon::engine {
 namespace {
@@ -17,11 +14,6 @@ namespace {
 using indicators::BitSet;
 using market::Instrument;
 using market::Market;
-using market::PriceField;
-
-constexpr std::size_t kExampleSize = 30;
-constexpr double kLowPrice = 1000;  // won
-constexpr int kMaxInterests = 99;
 
 struct ThemeRule {
     std::string_view name;
@@ -65,6 +57,14 @@ std::map<std::string_view, BitSet> StocksByIndustry(const Market& market) {
     return industries;
 }
 
+}  // namespace
+
+const Account* UserGroups::FindAccount(std::string_view number) const {
+    for (const Account& account : accounts)
+        if (account.number == number) return &account;
+    return nullptr;
+}
+
 GroupList ExampleThemes(const Market& market) {
     const std::map<std::string_view, BitSet> industries = StocksByIndustry(market);
     GroupList groups;
@@ -79,78 +79,6 @@ GroupList ExampleThemes(const Market& market) {
         if (members.Count())
             groups.push_back({"6" + ZeroPadded(static_cast<int>(i) + 1, 2), std::string(rule.name), members});
     }
-    return groups;
-}
-
-BitSet Places(const std::vector<std::size_t>& ranked, std::size_t stocks,
-              std::initializer_list<std::size_t> places) {
-    BitSet some(stocks);
-    for (std::size_t place : places)
-        if (place < ranked.size()) some.Set(ranked[place]);
-    return some;
-}
-
-// The first stocks of an order.
-BitSet First(const std::vector<std::size_t>& order, std::size_t stocks) {
-    BitSet some(stocks);
-    for (std::size_t i = 0; i < std::min(kExampleSize, order.size()); ++i) some.Set(order[i]);
-    return some;
-}
-
-// `ranked` in order of the last day's turnover, the largest first.
-std::vector<std::size_t> ByTurnover(const Market& market, std::vector<std::size_t> ranked) {
-    std::vector<double> turnover(market.Instruments().size());  // beforehand, as sorting asks again and again
-    for (std::size_t stock : ranked)
-        turnover[stock] =
-            DayValue(market, PriceField::Close, stock) * DayValue(market, PriceField::Volume, stock);
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [&](std::size_t a, std::size_t b) { return turnover[a] > turnover[b]; });
-    return ranked;
-}
-
-GroupList ExampleInterests(const Market& market, const std::vector<std::size_t>& ranked) {
-    const std::size_t stocks = market.Instruments().size();
-    return {{"501", "대형주", First(ranked, stocks)},
-            {"502", "거래대금 상위", First(ByTurnover(market, ranked), stocks)},
-            {"503", "저가주", StocksWhere(market, [&](std::size_t stock) {
-                 return DayValue(market, PriceField::Close, stock) < kLowPrice;
-             })}};
-}
-
-// Two accounts; the middle four digits are the user's own.
-std::vector<Account> ExampleAccounts(const Market& market, std::string_view user,
-                                     const std::vector<std::size_t>& ranked) {
-    unsigned number = 0;
-    for (char c : user) number = number * 31 + static_cast<unsigned char>(c);
-    const std::string branch = "1001" + ZeroPadded(static_cast<int>(number % 10000), 4);
-    const std::size_t stocks = market.Instruments().size();
-    return {{branch + "101", Places(ranked, stocks, {0, 2, 5, 11, 23})},
-            {branch + "201", Places(ranked, stocks, {40, 90, 150, 300, 700, 1200})}};
-}
-
-}  // namespace
-
-const Account* UserGroups::FindAccount(std::string_view number) const {
-    for (const Account& account : accounts)
-        if (account.number == number) return &account;
-    return nullptr;
-}
-
-std::string UserGroups::FreeInterestCode() const {
-    for (int number = 1; number <= kMaxInterests; ++number) {
-        std::string code = "5" + ZeroPadded(number, 2);
-        if (!FindGroup(interests, code)) return code;
-    }
-    return {};
-}
-
-UserGroups ExampleGroups(const Market& market, std::string_view user) {
-    const std::vector<std::size_t> ranked = StocksBySize(market);
-    UserGroups groups;
-    groups.interests = ExampleInterests(market, ranked);
-    groups.themes = ExampleThemes(market);
-    groups.news = ExampleNews(market);
-    groups.accounts = ExampleAccounts(market, user, ranked);
     return groups;
 }
 

@@ -1,7 +1,7 @@
 // What belongs to one user: interest groups, themes, news sources, and accounts with their holdings.
 //
-// Interest groups have codes "501" to "599", themes "601" to "699", news sources "902" to "908". A user whom
-// the service meets for the first time gets examples of all of them, made from the market.
+// Interest groups have codes "501" to "599", themes "601" to "699", news sources "902" to "908". Themes and
+// news are examples, made from the market.
 #pragma once
 
 #include "server/engine/stock_group.h"
@@ -22,11 +22,9 @@ struct UserGroups {
 
     // The account with this number, null if there is none.
     const Account* FindAccount(std::string_view number) const;
-
-    // The first code of an interest group that is free, empty if none is.
-    std::string FreeInterestCode() const;
 };
 
-UserGroups ExampleGroups(const market::Market& market, std::string_view user);
+// Those themes that this market has stocks for.
+GroupList ExampleThemes(const market::Market& market);
 
 }  // namespace jogeon::engine

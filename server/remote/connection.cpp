@@ -21,18 +21,6 @@ constexpr int kConnectTime = 5'000;
 
 constexpr milliseconds kTroubleLasts(5'000);
 
-std::unique_ptr<ConditionService::Stub> Connect(const std::string& address) {
-    SilenceLibrary();
-    grpc::ChannelArguments arguments;
-    arguments.SetInt(GRPC_ARG_INITIAL_RECONNECT_BACKOFF_MS, kFirstRetry);
-    arguments.SetInt(GRPC_ARG_MAX_RECONNECT_BACKOFF_MS, kLongestRetry);
-    arguments.SetInt(GRPC_ARG_MIN_RECONNECT_BACKOFF_MS, kConnectTime);
-    arguments.SetInt(GRPC_ARG_ENABLE_HTTP_PROXY, 0);
-    arguments.SetInt(GRPC_ARG_USE_LOCAL_SUBCHANNEL_POOL, 1);
-    return ConditionService::NewStub(
-        grpc::CreateCustomChannel("ipv4:" + address, grpc::InsecureChannelCredentials(), arguments));
-}
-
 std::string Seconds(milliseconds time) {
     const auto tenths = time.count() / 100;
     return std::to_string(tenths / 10) + (tenths % 10 ? "." + std::to_string(tenths % 10) : "") + " s";
@@ -67,7 +55,20 @@ RemoteService::Connection::Connection(std::string serverAddress, TroubleLog trou
       log(std::move(troubleLog)),
       settings(remoteSettings),
       windowShift(std::random_device{}()),
-      stub(Connect(address)) {}
+      stubs_(Connect(address)) {}
+
+RemoteService::Connection::Stubs RemoteService::Connection::Connect(const std::string& address) {
+    SilenceLibrary();
+    grpc::ChannelArguments arguments;
+    arguments.SetInt(GRPC_ARG_INITIAL_RECONNECT_BACKOFF_MS, kFirstRetry);
+    arguments.SetInt(GRPC_ARG_MAX_RECONNECT_BACKOFF_MS, kLongestRetry);
+    arguments.SetInt(GRPC_ARG_MIN_RECONNECT_BACKOFF_MS, kConnectTime);
+    arguments.SetInt(GRPC_ARG_ENABLE_HTTP_PROXY, 0);
+    arguments.SetInt(GRPC_ARG_USE_LOCAL_SUBCHANNEL_POOL, 1);
+    const auto channel =
+        grpc::CreateCustomChannel("ipv4:" + address, grpc::InsecureChannelCredentials(), arguments);
+    return {ConditionService::NewStub(channel), PortfolioService::NewStub(channel)};
+}
 
 bool RemoteService::Connection::InTrouble() const {
     return Clock::now() < lastTrouble_.load() + kTroubleLasts;

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <set>
+#include <tuple>
 
 #include "server/remote/jogeon.grpc.pb.h"
+#include "server/remote/portfolio.grpc.pb.h"
 #include "server/remote/remote_service.h"
 
 namespace jogeon::remote {
@@ -14,12 +17,13 @@ namespace jogeon::remote {
 struct RemoteService::Connection {
     Connection(std::string address, TroubleLog log, RemoteSettings settings);
 
-    template <typename Request, typename Reply>
-    using Method = grpc::Status (ConditionService::Stub::*)(grpc::ClientContext*, const Request&, Reply*);
+    // A call of one of the server's services.
+    template <typename Stub, typename Request, typename Reply>
+    using Method = grpc::Status (Stub::*)(grpc::ClientContext*, const Request&, Reply*);
 
     // Calls and waits. False, with the trouble logged, when the call failed.
-    template <typename Request, typename Reply>
-    bool Ask(Method<Request, Reply> call, const Request& request, Reply& reply,
+    template <typename Stub, typename Request, typename Reply>
+    bool Ask(Method<Stub, Request, Reply> call, const Request& request, Reply& reply,
              std::chrono::milliseconds deadline) {
         const std::optional<Trouble> trouble = Call(call, request, reply, deadline);
         if (trouble && log && !givenUp_) log(*trouble);
@@ -27,8 +31,8 @@ struct RemoteService::Connection {
     }
 
     // The same, but throws the trouble as a RemoteError.
-    template <typename Request, typename Reply>
-    void Demand(Method<Request, Reply> call, const Request& request, Reply& reply) {
+    template <typename Stub, typename Request, typename Reply>
+    void Demand(Method<Stub, Request, Reply> call, const Request& request, Reply& reply) {
         const std::optional<Trouble> trouble = Call(call, request, reply, settings.callDeadline);
         if (trouble) throw RemoteError(trouble->line);
     }
@@ -43,7 +47,6 @@ struct RemoteService::Connection {
     const TroubleLog log;
     const RemoteSettings settings;
     const std::uint32_t windowShift;
-    const std::unique_ptr<ConditionService::Stub> stub;
 
 private:
     // A call that can be given up.
@@ -59,20 +62,26 @@ private:
         grpc::ClientContext& context_;
     };
 
+    using Stubs =
+        std::tuple<std::unique_ptr<ConditionService::Stub>, std::unique_ptr<PortfolioService::Stub>>;
     using Clock = std::chrono::steady_clock;
 
-    template <typename Request, typename Reply>
-    std::optional<Trouble> Call(Method<Request, Reply> call, const Request& request, Reply& reply,
+    template <typename Stub, typename Request, typename Reply>
+    std::optional<Trouble> Call(Method<Stub, Request, Reply> call, const Request& request, Reply& reply,
                                 std::chrono::milliseconds deadline) {
         grpc::ClientContext context;
         Prepare(context, deadline);
         const UnderWay underWay(*this, context);
-        return Judge((stub.get()->*call)(&context, request, &reply), deadline);
+        return Judge((std::get<std::unique_ptr<Stub>>(stubs_).get()->*call)(&context, request, &reply),
+                     deadline);
     }
 
     void Prepare(grpc::ClientContext& context, std::chrono::milliseconds deadline) const;
     std::optional<Trouble> Judge(const grpc::Status& status, std::chrono::milliseconds deadline);
 
+    static Stubs Connect(const std::string& address);
+
+    const Stubs stubs_;
     std::atomic<Clock::time_point> lastTrouble_{Clock::time_point::min()};
     std::atomic<bool> givenUp_ = false;
     std::mutex mutex_;

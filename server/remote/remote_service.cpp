@@ -3,13 +3,15 @@
 #include <utility>
 
 #include "server/remote/connection.h"
+#include "server/remote/remote_portfolios.h"
 
 namespace jogeon::remote {
 
 using Stub = ConditionService::Stub;
 
 RemoteService::RemoteService(const std::string& address, TroubleLog log, RemoteSettings settings)
-    : connection_(std::make_unique<Connection>(address, std::move(log), settings)) {}
+    : connection_(std::make_unique<Connection>(address, std::move(log), settings)),
+      portfolios_(std::make_unique<RemotePortfolios>(*connection_)) {}
 
 RemoteService::~RemoteService() = default;
 
@@ -52,17 +54,6 @@ std::vector<std::string> RemoteService::Accounts(const std::string& user) {
     return {reply.numbers().begin(), reply.numbers().end()};
 }
 
-std::string RemoteService::AddInterestGroup(const std::string& user, const std::string& name,
-                                            const std::vector<std::string>& codes) {
-    InterestGroupRequest asked;
-    asked.set_user(user);
-    asked.set_name(name);
-    asked.mutable_codes()->Assign(codes.begin(), codes.end());
-    InterestGroupReply reply;
-    connection_->Demand(&Stub::AddInterestGroup, asked, reply);
-    return reply.code();
-}
-
 std::string RemoteService::StockName(const std::string& code) {
     if (connection_->InTrouble()) return {};
     StockNameRequest asked;
@@ -80,6 +71,10 @@ service::MarketSummary RemoteService::Market() {
 
 void RemoteService::GiveUpCalls() {
     connection_->GiveUpCalls();
+}
+
+service::Portfolios& RemoteService::GetPortfolios() {
+    return *portfolios_;
 }
 
 }  // namespace jogeon::remote

@@ -57,8 +57,6 @@ public:
     bool FillCodeLists(const std::string& user,
                        std::map<std::string, std::vector<std::string>>& lists) override;
     std::vector<std::string> Accounts(const std::string& user) override;
-    std::string AddInterestGroup(const std::string& user, const std::string& name,
-                                 const std::vector<std::string>& codes) override;
 
     // Empty, too, when the call failed, and without a call for a moment after that: names are asked for by
     // the hundred, and a server that hangs would hold up each of them.
@@ -68,9 +66,14 @@ public:
     // Callable while calls are under way, which return soon. They fail without a word to the log.
     void GiveUpCalls() override;
 
-private:
+    // Each of its calls throws RemoteError when it failed.
+    service::Portfolios& GetPortfolios() override;
+
     struct Connection;
-    std::unique_ptr<Connection> connection_;
+
+private:
+    const std::unique_ptr<Connection> connection_;
+    const std::unique_ptr<service::Portfolios> portfolios_;
 };
 
 }  // namespace jogeon::remote

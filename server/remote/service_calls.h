@@ -1,6 +1,7 @@
 // The calls of a connection, each turned into one of a service.
 #pragma once
 
+#include "server/remote/call_guard.h"
 #include "server/remote/jogeon.grpc.pb.h"
 #include "server/service/service.h"
 
@@ -17,24 +18,14 @@ public:
                                CodeListsReply* reply) override;
     grpc::Status Accounts(grpc::ServerContext* context, const AccountsRequest* request,
                           AccountsReply* reply) override;
-    grpc::Status AddInterestGroup(grpc::ServerContext* context, const InterestGroupRequest* request,
-                                  InterestGroupReply* reply) override;
     grpc::Status StockName(grpc::ServerContext* context, const StockNameRequest* request,
                            StockNameReply* reply) override;
     grpc::Status Market(grpc::ServerContext* context, const MarketRequest* request,
                         MarketReply* reply) override;
 
 private:
-    // Runs `call` when the asker speaks this protocol; what it throws becomes the call's failure.
-    template <typename Call>
-    grpc::Status Answer(const grpc::ServerContext& context, Call call);
-
-    // The same for a call of a user, once his id is one.
-    template <typename Request, typename Call>
-    grpc::Status AnswerUser(const grpc::ServerContext& context, const Request& request, Call call);
-
     service::Service& service_;
-    const service::FailureLog log_;
+    const CallGuard guard_;
 };
 
 }  // namespace jogeon::remote

@@ -1,11 +1,11 @@
 #include "server/remote/service_server.h"
 
 #include <chrono>
-#include <utility>
 
 #include <grpcpp/server_builder.h>
 
 #include "server/remote/loopback_address.h"
+#include "server/remote/portfolio_calls.h"
 #include "server/remote/protocol.h"
 #include "server/remote/service_calls.h"
 
@@ -20,20 +20,23 @@ constexpr int kPortIsOurs = 0;
 }  // namespace
 
 struct ServiceServer::State {
-    State(service::Service& service, service::FailureLog log) : calls(service, std::move(log)) {}
+    State(service::Service& service, const service::FailureLog& log)
+        : calls(service, log), portfolioCalls(service.GetPortfolios(), log) {}
 
     ServiceCalls calls;
+    PortfolioCalls portfolioCalls;
     int port = 0;
     std::unique_ptr<grpc::Server> server;
 };
 
-ServiceServer::ServiceServer(service::Service& service, int port, service::FailureLog log)
-    : state_(std::make_unique<State>(service, std::move(log))) {
+ServiceServer::ServiceServer(service::Service& service, int port, const service::FailureLog& log)
+    : state_(std::make_unique<State>(service, log)) {
     SilenceLibrary();
     grpc::ServerBuilder builder;
     builder.AddChannelArgument(GRPC_ARG_ALLOW_REUSEPORT, kPortIsOurs);
     builder.AddListeningPort(LoopbackAddress(port), grpc::InsecureServerCredentials(), &state_->port);
     builder.RegisterService(&state_->calls);
+    builder.RegisterService(&state_->portfolioCalls);
     state_->server = builder.BuildAndStart();
     if (!state_->server || state_->port == 0)
         throw ListenError("can't listen on " + LoopbackAddress(port) +

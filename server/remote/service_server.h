@@ -21,7 +21,7 @@ class ServiceServer {
 public:
     // Answers from now on. Port 0 takes one that is free. `service` outlives this; `log` may be empty and is
     // called from several threads. Throws ListenError when the port can't be had.
-    ServiceServer(service::Service& service, int port, service::FailureLog log = {});
+    ServiceServer(service::Service& service, int port, const service::FailureLog& log = {});
 
     // Takes no more calls, and waits for the ones under way. Their askers are told that they failed when they
     // take longer than a few seconds.

@@ -10,8 +10,9 @@ LocalService::LocalService(std::shared_ptr<const market::Market> market, std::un
                            FailureLog log)
     : market_{market->Source(), market->Generated(), static_cast<int>(market->Instruments().size()),
               market->LastDate()},
-      search_(std::move(market), std::move(log)),
-      store_(std::move(store)) {}
+      store_(std::move(store)),
+      portfolios_(market, store_ ? store_->File() : store::PortfolioStore::kInMemory),
+      search_(std::move(market), std::move(log), portfolios_.Store()) {}
 
 std::string LocalService::Handle(const Request& request) {
     if (request.transaction != kStoreTransaction) return search_.Handle(request);
@@ -25,11 +26,6 @@ bool LocalService::FillCodeLists(const std::string& user,
 
 std::vector<std::string> LocalService::Accounts(const std::string& user) {
     return search_.Accounts(user);
-}
-
-std::string LocalService::AddInterestGroup(const std::string& user, const std::string& name,
-                                           const std::vector<std::string>& codes) {
-    return search_.AddInterestGroup(user, name, codes);
 }
 
 std::string LocalService::StockName(const std::string& code) {

@@ -1,8 +1,10 @@
-// The service in this process: searches over one market, and the store of condition sets.
+// The service in this process: searches over one market, and the store of condition sets and
+// portfolios.
 #pragma once
 
 #include <memory>
 
+#include "server/service/local_portfolios.h"
 #include "server/service/search_service.h"
 #include "server/service/service.h"
 #include "server/service/store_service.h"
@@ -11,8 +13,9 @@ namespace jogeon::service {
 
 class LocalService : public Service {
 public:
-    // Without a store, requests over condition sets have no reply. Throws MarketError when the market's last
-    // day can't be read.
+    // Without a store, requests over condition sets have no reply, and portfolios live as long as the
+    // service. Throws MarketError when the market's last day can't be read, StoreError when the store's file
+    // can't be used.
     LocalService(std::shared_ptr<const market::Market> market, std::unique_ptr<StoreService> store,
                  FailureLog log = {});
 
@@ -20,15 +23,15 @@ public:
     bool FillCodeLists(const std::string& user,
                        std::map<std::string, std::vector<std::string>>& lists) override;
     std::vector<std::string> Accounts(const std::string& user) override;
-    std::string AddInterestGroup(const std::string& user, const std::string& name,
-                                 const std::vector<std::string>& codes) override;
     std::string StockName(const std::string& code) override;
     MarketSummary Market() override;
+    Portfolios& GetPortfolios() override { return portfolios_; }
 
 private:
     const MarketSummary market_;
-    SearchService search_;
     const std::unique_ptr<StoreService> store_;
+    LocalPortfolios portfolios_;
+    SearchService search_;
 };
 
 }  // namespace jogeon::service

@@ -8,6 +8,7 @@
 #include "server/engine/market_groups.h"
 #include "server/indicators/market_day.h"
 #include "server/service/code_lists.h"
+#include "server/service/example_portfolio.h"
 #include "server/service/reply_writer.h"
 #include "server/service/request_reader.h"
 #include "server/service/result_store.h"
@@ -42,11 +43,13 @@ void CutToTotal(engine::SearchResult& result) {
 }  // namespace
 
 struct SearchService::State {
-    State(std::shared_ptr<const market::Market> served, FailureLog failureLog)
+    State(std::shared_ptr<const market::Market> served, FailureLog failureLog,
+          std::shared_ptr<store::PortfolioStore> portfolios)
         : market(std::move(served)),
           day(market),
           groups(engine::BuildMarketGroups(*market)),
-          users(*market),
+          users(*market, portfolios ? std::move(portfolios)
+                                    : OpenPortfolios(market, store::PortfolioStore::kInMemory)),
           log(std::move(failureLog)) {}
 
     std::string AnswerSearch(const Request& request) {
@@ -75,7 +78,7 @@ struct SearchService::State {
             if (letter == kStart) return AnswerSearch(request);
             if (letter == kNextPage) return AnswerNextPage(request);
         } catch (const std::runtime_error&
-                     error) {  // a bad request, search or condition, or a damaged market file
+                     error) {  // a bad request, search or condition, a damaged market file, a failing store
             Log(error);
             return BuildFailure(letter);
         }
@@ -95,8 +98,9 @@ struct SearchService::State {
     const FailureLog log;
 };
 
-SearchService::SearchService(std::shared_ptr<const market::Market> market, FailureLog log)
-    : state_(std::make_unique<State>(std::move(market), std::move(log))) {}
+SearchService::SearchService(std::shared_ptr<const market::Market> market, FailureLog log,
+                             std::shared_ptr<store::PortfolioStore> portfolios)
+    : state_(std::make_unique<State>(std::move(market), std::move(log), std::move(portfolios))) {}
 
 SearchService::~SearchService() = default;
 
@@ -111,7 +115,7 @@ bool SearchService::FillCodeLists(const std::string& user,
     try {
         const UserTable::Groups groups = state_->users.Of(user);
         for (auto& [codeClass, lines] : lists) lines = CodeList(codeClass, state_->groups, *groups);
-    } catch (const market::MarketError& error) {
+    } catch (const std::runtime_error& error) {  // a damaged market file, or a store that fails
         state_->Log(error);
         return false;
     }
@@ -122,11 +126,6 @@ std::vector<std::string> SearchService::Accounts(const std::string& user) {
     std::vector<std::string> numbers;
     for (const engine::Account& account : state_->users.Of(user)->accounts) numbers.push_back(account.number);
     return numbers;
-}
-
-std::string SearchService::AddInterestGroup(const std::string& user, const std::string& name,
-                                            const std::vector<std::string>& codes) {
-    return state_->users.AddInterestGroup(user, ToUtf8(name), codes);
 }
 
 std::string SearchService::StockName(const std::string& code) const {

@@ -12,13 +12,16 @@
 
 #include "server/market/market.h"
 #include "server/service/request.h"
+#include "server/store/portfolio_store.h"
 
 namespace jogeon::service {
 
 class SearchService {
 public:
-    // Throws MarketError when the market's last day can't be read.
-    explicit SearchService(std::shared_ptr<const market::Market> market, FailureLog log = {});
+    // `portfolios` has the users' groups and accounts; without one they are this service's own and go with
+    // it. Throws MarketError when the market's last day can't be read.
+    explicit SearchService(std::shared_ptr<const market::Market> market, FailureLog log = {},
+                           std::shared_ptr<store::PortfolioStore> portfolios = nullptr);
     ~SearchService();
     SearchService(const SearchService&) = delete;
     SearchService& operator=(const SearchService&) = delete;
@@ -28,18 +31,12 @@ public:
 
     // Fills the array of every class that is a key of `lists`: a three-byte code, a blank and the name in
     // CP949. A class that the service doesn't have gets no line. False, with the arrays empty, when the
-    // market's file turns out damaged.
+    // market's file turns out damaged or the store fails.
     bool FillCodeLists(const std::string& user, std::map<std::string, std::vector<std::string>>& lists);
 
-    // The numbers of the user's accounts, eleven digits each. Like the next, throws MarketError when the
-    // market's file turns out damaged.
+    // The numbers of the user's accounts, eleven digits each. Throws MarketError when the market's file turns
+    // out damaged, StoreError when the store fails.
     std::vector<std::string> Accounts(const std::string& user);
-
-    // Adds a group of stocks to the user's interest groups and returns its three-byte code; empty when the
-    // name or the codes are none of this market's, or when all codes are taken. It lives as long as the
-    // service. The name is CP949, codes are six bytes each.
-    std::string AddInterestGroup(const std::string& user, const std::string& name,
-                                 const std::vector<std::string>& codes);
 
     // The name, in CP949, of the stock with this six-byte code; empty if it is unknown.
     std::string StockName(const std::string& code) const;

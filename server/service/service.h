@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "server/service/portfolios.h"
 #include "server/service/request.h"
 
 namespace jogeon::service {
@@ -34,20 +35,18 @@ public:
     virtual bool FillCodeLists(const std::string& user,
                                std::map<std::string, std::vector<std::string>>& lists) = 0;
 
-    // The numbers of the user's accounts, eleven digits each. Like the next, throws std::runtime_error when
-    // the service can't tell.
+    // The numbers of the user's accounts, eleven digits each. Throws std::runtime_error when the service
+    // can't tell.
     virtual std::vector<std::string> Accounts(const std::string& user) = 0;
-
-    // Adds a group of stocks, six bytes each, to the user's interest groups and returns its three-byte code;
-    // empty when it isn't taken.
-    virtual std::string AddInterestGroup(const std::string& user, const std::string& name,
-                                         const std::vector<std::string>& codes) = 0;
 
     // The name of the stock with this six-byte code; empty if it is unknown.
     virtual std::string StockName(const std::string& code) = 0;
 
     // Throws std::runtime_error when the service can't tell.
     virtual MarketSummary Market() = 0;
+
+    // The users' interest groups and holdings. Lives as long as the service.
+    virtual Portfolios& GetPortfolios() = 0;
 
     // The asker goes away: calls under way end soon where they can, and calls to come may fail.
     virtual void GiveUpCalls() {}

@@ -42,7 +42,7 @@ std::string Why(const store::Change& change, const std::string& asked) {
 }  // namespace
 
 StoreService::StoreService(const std::filesystem::path& file, FailureLog log)
-    : store_(file), log_(std::move(log)) {}
+    : file_(file), store_(file), log_(std::move(log)) {}
 
 std::string StoreService::Handle(const Request& request) {
     if (request.transaction != kStoreTransaction || request.payload.empty()) return {};

@@ -22,6 +22,9 @@ public:
     // that can't be answered, since it has no way to say so but silence.
     std::string Handle(const Request& request);
 
+    // Where the sets are.
+    const std::filesystem::path& File() const { return file_; }
+
 private:
     std::string AnswerList(const Request& request);
     std::string AnswerCommand(const Request& request);
@@ -29,6 +32,7 @@ private:
     std::string VersionFor(const Request& request, const std::string& asked);
     void Log(const Request& request, std::string_view why) const;
 
+    const std::filesystem::path file_;
     store::ConditionStore store_;
     const FailureLog log_;
 };

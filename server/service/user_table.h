@@ -1,15 +1,17 @@
-// The groups of every user that the service has met, made on first sight.
+// The groups of the users as a search sees them: sets of this market's stocks.
 //
-// A user's groups never change under a reader: adding one replaces the whole. Callable from several threads.
+// Relies on the store for what the users have; whoever changed it there, the next look shows it. What is
+// handed out never changes under its reader. Callable from several threads.
 #pragma once
 
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "server/engine/user_groups.h"
+#include "server/store/portfolio_store.h"
 
 namespace jogeon::service {
 
@@ -17,19 +19,28 @@ class UserTable {
 public:
     using Groups = std::shared_ptr<const engine::UserGroups>;
 
-    explicit UserTable(const market::Market& market) : market_(market) {}
+    UserTable(const market::Market& market, std::shared_ptr<store::PortfolioStore> portfolios);
 
+    // Throws MarketError when the market's file turns out damaged, StoreError when the store fails.
     Groups Of(const std::string& user);
 
-    // Adds an interest group and returns its code; empty when the name is empty, none of the codes is of this
-    // market, or all codes of groups are taken. `name` is UTF-8.
-    std::string AddInterestGroup(const std::string& user, const std::string& name,
-                                 const std::vector<std::string>& codes);
-
 private:
+    struct Known {
+        std::int64_t revision = 0;
+        Groups groups;
+    };
+    struct Examples {
+        engine::GroupList themes;
+        engine::GroupList news;
+    };
+
+    Groups Build(const store::Portfolio& portfolio);
+
     const market::Market& market_;
+    const std::shared_ptr<store::PortfolioStore> portfolios_;
     std::mutex mutex_;
-    std::map<std::string, Groups> users_;
+    std::optional<Examples> examples_;  // the same for all users
+    std::map<std::string, Known> users_;
 };
 
 }  // namespace jogeon::service

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <system_error>
 
 #include "server/store/store_schema.h"
 
@@ -19,16 +18,6 @@ std::string VersionText(std::int64_t version) {
 
 std::int64_t VersionNumber(const std::string& text) {
     return std::stol(text.substr(0, 3)) * 1000 + std::stol(text.substr(4, 3));
-}
-
-Database OpenOrMake(const std::filesystem::path& file) {
-    std::error_code error;
-    if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path(), error);
-    if (error)
-        throw StoreError(file.parent_path().string() + ": can't be made a folder (" + error.message() + ")");
-    Database database(file);
-    PrepareSchema(database);
-    return database;
 }
 
 // The lowest number from 0 on that isn't among `numbers`, which are in ascending order.
@@ -55,7 +44,7 @@ bool IsVersion(std::string_view text) {
 }
 
 ConditionStore::ConditionStore(const std::filesystem::path& file)
-    : database_(OpenOrMake(file)),
+    : database_(OpenStore(file)),
       readVersion_(database_, "SELECT version FROM users WHERE id = ?"),
       writeVersion_(database_,
                     "INSERT INTO users (id, version) VALUES (?, ?)"

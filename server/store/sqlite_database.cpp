@@ -99,6 +99,10 @@ std::int64_t Execution::Number(int column) const {
     return sqlite3_column_int64(statement_.handle_.get(), column);
 }
 
+double Execution::Real(int column) const {
+    return sqlite3_column_double(statement_.handle_.get(), column);
+}
+
 std::string Execution::Bytes(int column) const {
     const void* bytes = sqlite3_column_blob(statement_.handle_.get(), column);
     const int length = sqlite3_column_bytes(statement_.handle_.get(), column);
@@ -108,6 +112,10 @@ std::string Execution::Bytes(int column) const {
 
 void Execution::Bind(int place, std::int64_t number) {
     Check(sqlite3_bind_int64(statement_.handle_.get(), place, number));
+}
+
+void Execution::BindReal(int place, double number) {
+    Check(sqlite3_bind_double(statement_.handle_.get(), place, number));
 }
 
 void Execution::Bind(int place, std::string_view text) {

@@ -4,6 +4,7 @@
 // thread at a time uses a database and what belongs to it.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -88,10 +89,14 @@ public:
     bool Next();
 
     std::int64_t Number(int column) const;
+    double Real(int column) const;
     std::string Bytes(int column) const;
 
 private:
     void Bind(int place, std::int64_t number);
+    // For nothing but doubles, so that an int isn't one by chance.
+    void Bind(int place, std::same_as<double> auto number) { BindReal(place, number); }
+    void BindReal(int place, double number);
     void Bind(int place, std::string_view text);
     void Bind(int place, Blob blob);
     void Check(int code) const;

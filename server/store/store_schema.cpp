@@ -1,6 +1,7 @@
 #include "server/store/store_schema.h"
 
 #include <iterator>
+#include <system_error>
 
 namespace jogeon::store {
 namespace {
@@ -17,8 +18,24 @@ void MakeTables(Database& database) {
         "PRAGMA application_id = 0x6A6F676E");
 }
 
+// A user is in "investors" once he has been met. Text is UTF-8; the stocks of a group are their six-byte
+// codes in their order, one behind the other.
+void MakePortfolioTables(Database& database) {
+    database.Run(
+        "CREATE TABLE investors (user TEXT PRIMARY KEY, revision INTEGER NOT NULL,"
+        " last_group INTEGER NOT NULL CHECK (last_group BETWEEN 0 AND 99)) STRICT;"
+        "CREATE TABLE interest_groups (user TEXT NOT NULL, code TEXT NOT NULL"
+        " CHECK (code GLOB '5[0-9][0-9]' AND code > '500'), place INTEGER NOT NULL, name TEXT NOT NULL,"
+        " stocks TEXT NOT NULL CHECK (length(stocks) % 6 = 0), PRIMARY KEY (user, code)) STRICT;"
+        "CREATE TABLE accounts (user TEXT NOT NULL, number TEXT NOT NULL CHECK (length(number) = 11),"
+        " place INTEGER NOT NULL, PRIMARY KEY (user, number)) STRICT;"
+        "CREATE TABLE holdings (user TEXT NOT NULL, account TEXT NOT NULL, place INTEGER NOT NULL,"
+        " stock TEXT NOT NULL CHECK (length(stock) = 6), quantity INTEGER NOT NULL,"
+        " average_price REAL NOT NULL, PRIMARY KEY (user, account, place)) STRICT");
+}
+
 // The step at place n leads from form n to form n + 1; form 0 is an empty file.
-constexpr void (*kSteps[])(Database&) = {MakeTables};
+constexpr void (*kSteps[])(Database&) = {MakeTables, MakePortfolioTables};
 constexpr std::int64_t kForm = std::size(kSteps);
 
 std::int64_t Ask(Database& database, const char* sql) {
@@ -69,6 +86,16 @@ void PrepareSchema(Database& database) {
     ChooseJournal(database);
     if (form < kForm) CarryOver(database);
     DemandWhole(database);
+}
+
+Database OpenStore(const std::filesystem::path& file) {
+    std::error_code error;
+    if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path(), error);
+    if (error)
+        throw StoreError(file.parent_path().string() + ": can't be made a folder (" + error.message() + ")");
+    Database database(file);
+    PrepareSchema(database);
+    return database;
 }
 
 }  // namespace jogeon::store

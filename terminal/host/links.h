@@ -30,6 +30,9 @@ public:
     std::string GetRunTimePath() override;
     std::string ConfigurationFolder() override;
 
+    // The user's accounts are others now.
+    void SetAccounts(std::vector<std::string> accounts) { accounts_ = std::move(accounts); }
+
     // The codes published last under a title.
     std::vector<std::string> CodesOf(const std::string& title) const;
 
@@ -37,7 +40,7 @@ private:
     std::map<std::pair<std::string, std::string>, std::string> tags_;
     std::map<std::string, std::vector<std::string>> codes_;
     std::bitset<256> majorIds_;
-    const std::vector<std::string> accounts_;
+    std::vector<std::string> accounts_;
     const std::string home_;
     const std::string configuration_;
 };

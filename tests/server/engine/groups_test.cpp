@@ -90,23 +90,13 @@ TEST(MarketGroupsTest, EveryStockOfAnExchangeIsInOneOfItsSectors) {
     EXPECT_EQ(krx, 100u);
 }
 
-TEST(UserGroupsTest, ExamplesAreTheUsersOwnAndMadeOfTheMarket) {
-    const auto market = market::GenerateMarket();
-    const UserGroups first = ExampleGroups(*market, "kim01");
-    const UserGroups second = ExampleGroups(*market, "lee02");
-    EXPECT_NE(first.accounts.at(0).number, second.accounts.at(0).number);
-    for (const Account& account : first.accounts) {
-        EXPECT_EQ(account.number.size(), 11u);
-        EXPECT_GT(account.holdings.Count(), 0u);
-        EXPECT_EQ(first.FindAccount(account.number), &account);
-    }
-    for (const StockGroup& group : first.interests) EXPECT_GT(group.members.Count(), 0u) << group.name;
-    EXPECT_FALSE(first.themes.empty());
-    for (const StockGroup& group : first.themes) {
+TEST(UserGroupsTest, ThemesAreMadeOfTheMarket) {
+    const GroupList themes = ExampleThemes(*market::GenerateMarket());
+    EXPECT_FALSE(themes.empty());
+    for (const StockGroup& group : themes) {
         EXPECT_GT(group.members.Count(), 0u) << group.name;
         EXPECT_EQ(group.code[0], '6');
     }
-    EXPECT_EQ(first.FreeInterestCode(), "504");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "server/remote/remote_service.h"
 
 #include <algorithm>
+#include <cmath>
 #include <future>
 #include <optional>
 #include <thread>
@@ -72,19 +73,54 @@ TEST_F(RemoteServiceTest, EveryCallGivesWhatTheServiceItselfGives) {
               "VE" + std::string(22, ' '));
     EXPECT_EQ(remote->Handle({"kim01", 7, "PIBOFIDJ", 255, "1"}), "") << "no reply, and no trouble";
 
-    EXPECT_EQ(remote->AddInterestGroup("kim01", "내 종목"_cp949, {"000010", "100020"}), "504");
     std::map<std::string, std::vector<std::string>> there{{"0504", {"old"}}, {"0502", {}}, {"none", {"old"}}};
     auto here = there;
     EXPECT_TRUE(remote->FillCodeLists("kim01", there));
     EXPECT_TRUE(local.FillCodeLists("kim01", here));
     EXPECT_EQ(there, here);
-    EXPECT_THAT(there["0502"], testing::Contains("504 내 종목"_cp949));
+    EXPECT_THAT(there["0502"], testing::Contains("501 대형주"_cp949));
     EXPECT_EQ(remote->Accounts("kim01"), local.Accounts("kim01"));
     EXPECT_FALSE(remote->Accounts("kim01").empty());
     EXPECT_EQ(remote->StockName("000030"), "다제약"_cp949);
     EXPECT_EQ(remote->StockName("999999"), "");
     EXPECT_EQ(remote->Market(), (service::MarketSummary{"test", false, 11, 20260306}));
     EXPECT_THAT(lines, ElementsAre());
+}
+
+TEST_F(RemoteServiceTest, PortfoliosAreTheServicesOwnAndStocksAreAskedForOnce) {
+    using service::Verdict;
+    const auto remote = Connect();
+    service::Portfolios& there = remote->GetPortfolios();
+    service::Portfolios& here = local.GetPortfolios();
+    const service::Addition added = there.Add("kim01", "내 종목"_cp949, {"100020", "000010"});
+    EXPECT_EQ(added.verdict, Verdict::Taken);
+    EXPECT_EQ(added.code, "504");
+    EXPECT_EQ(there.Add("kim01", "내 종목"_cp949, {}).verdict, Verdict::NameInUse);
+    EXPECT_EQ(there.Rename("kim01", "504", "새 이름"_cp949), Verdict::Taken);
+    EXPECT_EQ(there.SetStocks("kim01", "504", {"000020", "000010"}), Verdict::Taken);
+    EXPECT_EQ(there.SetStocks("kim01", "599", {}), Verdict::NoSuchGroup);
+    EXPECT_EQ(there.Delete("kim01", "501"), Verdict::Taken);
+    EXPECT_EQ(there.Reorder("kim01", {"504", "503", "502"}), Verdict::Taken);
+    EXPECT_EQ(here.Groups("kim01").at(0),
+              (service::InterestGroup{"504", "새 이름"_cp949, {"000020", "000010"}}));
+    EXPECT_EQ(there.Groups("kim01"), here.Groups("kim01"));
+
+    EXPECT_EQ(there.SetHoldings("kim01", "12345678901", {{"000020", 7, 1234.5}}), Verdict::Taken);
+    EXPECT_EQ(there.RemoveAccount("kim01", here.Accounts("kim01").at(0).number), Verdict::Taken);
+    EXPECT_EQ(there.Accounts("kim01"), here.Accounts("kim01"));
+    EXPECT_EQ(there.Accounts("kim01").back(), (service::HeldAccount{"12345678901", {{"000020", 7, 1234.5}}}));
+    EXPECT_EQ(remote->Accounts("kim01"), local.Accounts("kim01"));
+
+    const std::vector<service::Quote> quotes = there.Quotes({"000010", "999999"});
+    EXPECT_EQ(quotes.at(0).close, 50000);
+    EXPECT_EQ(quotes.at(0).change, 10);
+    EXPECT_TRUE(std::isnan(quotes.at(1).close));
+    EXPECT_THROW(there.Groups("../x"), RemoteError) << "no user";
+    const std::vector<service::StockEntry> stocks = there.Stocks();
+    EXPECT_EQ(stocks, here.Stocks());
+    server.reset();
+    EXPECT_EQ(there.Stocks(), stocks) << "without a call";
+    EXPECT_THROW(there.SetStocks("kim01", "504", {}), RemoteError);
 }
 
 TEST_F(RemoteServiceTest, WindowsOfTwoTerminalsWithOneHandleKeepTheirResults) {
@@ -122,7 +158,7 @@ TEST_F(RemoteServiceTest, ServerThatIsGoneFailsAtOnceAndOneThatIsBackServes) {
     EXPECT_FALSE(remote->FillCodeLists("kim01", lists));
     EXPECT_THAT(lists["0504"], ElementsAre());
     EXPECT_THROW(remote->Accounts("kim01"), RemoteError);
-    EXPECT_THROW(remote->AddInterestGroup("kim01", "a", {"000010"}), RemoteError);
+    EXPECT_THROW(remote->GetPortfolios().Add("kim01", "a", {"000010"}), RemoteError);
     EXPECT_THROW(remote->Market(), RemoteError);
     EXPECT_THAT(lines, ElementsAre(told, told));
     EXPECT_THAT(kinds, testing::Each(Trouble::Kind::Unreachable));
@@ -141,7 +177,7 @@ TEST_F(RemoteServiceTest, OtherProtocolsAndPortsThatAreTakenAreToldInOneLine) {
     EXPECT_EQ(Connect(next)->Handle(Search()), "");
     EXPECT_THAT(kinds, ElementsAre(Trouble::Kind::OtherProtocol));
     EXPECT_EQ(lines.back(),
-              "the server at " + address + " is of another version: it speaks protocol 1, the asker 2");
+              "the server at " + address + " is of another version: it speaks protocol 2, the asker 3");
     try {
         ServiceServer(local, server->Port());
         ADD_FAILURE() << "two servers on one port";

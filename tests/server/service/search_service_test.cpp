@@ -245,21 +245,6 @@ TEST_F(SearchServiceTest, CodeListsByClass) {
     EXPECT_EQ(service.StockName("1"), "");
 }
 
-TEST_F(SearchServiceTest, InterestGroupsAreTheUsersOwn) {
-    EXPECT_EQ(service.AddInterestGroup("kim01", "내 종목"_cp949, {"000040", "999999", "100020"}), "504");
-    EXPECT_EQ(service.AddInterestGroup("kim01", "", {"000040"}), "");
-    EXPECT_EQ(service.AddInterestGroup("kim01", "x", {"999999"}), "");
-    std::map<std::string, std::vector<std::string>> lists = {{"0502", {}}};
-    service.FillCodeLists("kim01", lists);
-    EXPECT_EQ(lists["0502"].back(), "504 내 종목"_cp949);
-
-    SearchText text{.header = Header("A", "01"), .blocks = PriceBlock('A', "0", "99999")};
-    Put(text.header, 95, "01");
-    Put(text.header, 109, "0001504");
-    EXPECT_EQ(Find(text), "K000040 Q100020");
-    EXPECT_EQ(Ask(SearchPayload(text), 0x2a, "lee02"), kFailedSearch) << "another user has no such group";
-}
-
 // 450 stocks on one price: three pages.
 std::shared_ptr<const market::Market> Crowd(int stocks) {
     market::MarketBuilder builder;

@@ -9,9 +9,12 @@
 
 #include "screen/text/bytes.h"
 #include "screen/text/cp949.h"
+#include "server/engine/news_groups.h"
 #include "server/engine/sectors.h"
 #include "server/engine/user_groups.h"
 #include "server/market/generated_market.h"
+#include "server/service/example_portfolio.h"
+#include "server/service/portfolios.h"
 #include "tests/server/service/requests.h"
 
 namespace jogeon::service {
@@ -153,26 +156,32 @@ TEST_F(UniverseChoicesTest, IndicesAreTheLargestStocks) {
 }
 
 TEST_F(UniverseChoicesTest, GroupsOfTheUserAreSearchedAlone) {
-    const engine::UserGroups user = engine::ExampleGroups(*market_, "kim01");
-    const std::pair<const engine::GroupList*, const char*> lists[] = {
-        {&user.interests, kInterests}, {&user.themes, kThemes}, {&user.news, kNews}};
-    for (const auto& [list, kinds] : lists) {
-        for (const engine::StockGroup& group : *list)
+    const std::pair<const char*, engine::GroupList> lists[] = {{kThemes, engine::ExampleThemes(*market_)},
+                                                               {kNews, engine::ExampleNews(*market_)}};
+    for (const auto& [kinds, groups] : lists) {
+        for (const engine::StockGroup& group : groups)
             ExpectNarrowed(Find(Over(kinds, {group.code})), In(group.members), group.name);
     }
-    ASSERT_EQ(user.news.size(), 7u);
-    for (std::size_t i = 1; i < user.news.size(); ++i)
-        EXPECT_NE(user.news[i].members, user.news[i - 1].members) << user.news[i].name;
+    const engine::GroupList& news = lists[1].second;
+    ASSERT_EQ(news.size(), 7u);
+    for (std::size_t i = 1; i < news.size(); ++i)
+        EXPECT_NE(news[i].members, news[i - 1].members) << news[i].name;
+
+    const store::Portfolio own = ExamplePortfolio(*market_, "kim01");
+    for (const store::InterestGroup& group : own.groups)
+        ExpectNarrowed(Find(Over(kInterests, {group.code})), {group.stocks.begin(), group.stocks.end()},
+                       group.name);
     EXPECT_EQ(Find(Over(kInterests, {"503"})),
               Where([](std::size_t stock) { return Last(market::PriceField::Close, stock) < 1000; }));
-
-    for (const engine::Account& account : user.accounts) {
-        const Codes held = In(account.holdings);
+    for (const HeldAccount& account : own.accounts) {
+        Codes held, others = everything_;
+        for (const Holding& holding : account.holdings) {
+            held.insert(holding.stock);
+            others.erase(holding.stock);
+        }
         std::string header = Over("02" + account.number + "0", {});
         ExpectNarrowed(Find(header), held, account.number);
         test::Put(header, 722, "1");  // everything but what is held
-        Codes others = everything_;
-        for (const std::string& code : held) others.erase(code);
         ExpectNarrowed(Find(header), others, "all but " + account.number);
     }
 }

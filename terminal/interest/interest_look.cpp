@@ -1,0 +1,106 @@
+#include "terminal/interest/interest_look.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableView>
+#include <QTreeWidget>
+
+#include "screen/palette/colors_qt.h"
+#include "screen/palette/header_style_qt.h"
+
+namespace jogeon::terminal {
+namespace {
+
+constexpr int kRowPadding = 6;  // pixels of a row beyond its text's height
+
+constexpr std::pair<QPalette::ColorRole, Color> kRoles[] = {
+    {QPalette::Window, Color::ScreenBack},
+    {QPalette::WindowText, Color::ControlText},
+    {QPalette::Base, Color::GridOddRow},
+    {QPalette::AlternateBase, Color::GridEvenRow},
+    {QPalette::Text, Color::GridText},
+    {QPalette::Button, Color::ControlFace},
+    {QPalette::ButtonText, Color::ControlText},
+    {QPalette::BrightText, Color::AccentText},
+    {QPalette::Highlight, Color::GridSelectedRow},
+    {QPalette::HighlightedText, Color::GridText},
+    {QPalette::PlaceholderText, Color::ControlFaintText},
+    {QPalette::Light, Color::ControlFace},
+    {QPalette::Midlight, Color::TabBack},
+    {QPalette::Mid, Color::ControlEdge},
+    {QPalette::Dark, Color::ControlEdge},
+    {QPalette::Shadow, Color::ControlEdge},
+    {QPalette::ToolTipBase, Color::NoticeBack},
+    {QPalette::ToolTipText, Color::NoticeText},
+    {QPalette::Link, Color::Accent},
+};
+
+constexpr QPalette::ColorRole kTexts[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                          QPalette::HighlightedText};
+
+constexpr int kCaptionPadding = 22;  // pixels of a button beyond its caption's width
+
+int RowHeight(const QWidget& list) {
+    return list.fontMetrics().height() + kRowPadding;
+}
+
+}  // namespace
+
+QPalette InterestPalette() {
+    QPalette palette;
+    for (const auto& [role, color] : kRoles) palette.setColor(role, ToQColor(color));
+    for (QPalette::ColorRole role : kTexts)
+        palette.setColor(QPalette::Disabled, role, ToQColor(Color::ControlFaintText));
+    return palette;
+}
+
+void LookLikeList(QTableView& table) {
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setAlternatingRowColors(true);
+    table.setShowGrid(false);
+    table.setWordWrap(false);
+    table.setTabKeyNavigation(false);
+    table.setCornerButtonEnabled(false);
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setDefaultSectionSize(RowHeight(table));
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setSectionsClickable(false);
+    table.horizontalHeader()->setStyleSheet(HeaderStyle());
+}
+
+void LookLikeList(QTreeView& tree) {
+    tree.setRootIsDecorated(false);
+    tree.setUniformRowHeights(true);
+    tree.setAlternatingRowColors(true);
+    tree.setAllColumnsShowFocus(true);
+    tree.header()->setSectionsMovable(false);
+    tree.header()->setStyleSheet(HeaderStyle());
+}
+
+void LookLikeRow(QTreeWidgetItem& item) {
+    item.setSizeHint(0, QSize(0, RowHeight(*item.treeWidget())));
+}
+
+// The style draws the outline in a shade of the window's colour.
+void LookLikeChoice(QAbstractButton& button) {
+    QPalette palette = InterestPalette();
+    palette.setColor(QPalette::Window, ToQColor(Color::ControlFaintText));
+    button.setPalette(palette);
+}
+
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& tooltip) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    button->setToolTip(tooltip);
+    button->setAccessibleName(tooltip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void FitToCaption(QPushButton& button) {
+    button.setFixedWidth(button.fontMetrics().horizontalAdvance(button.text()) + kCaptionPadding);
+}
+
+}  // namespace jogeon::terminal

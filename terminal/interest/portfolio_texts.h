@@ -1,0 +1,37 @@
+// What the windows over portfolios say, in the user's language, and the bytes of what he says.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+
+#include "screen/host/services.h"
+#include "server/service/portfolios.h"
+#include "terminal/interest/holdings_csv.h"
+
+namespace jogeon::terminal {
+
+// Why a change wasn't taken, as a sentence.
+QString WhyNot(service::Verdict verdict);
+
+// What is wrong with a line of a holdings file, behind its number.
+QString FaultText(const RefusedLine& line);
+
+// "12,345", "▲ 120" and "+1.25"; "-" for a value that isn't known.
+QString WonText(double won);
+QString ChangeText(double won);
+QString CountText(std::int64_t count);
+QString PercentText(double percent);  // with its sign
+
+// CP949 and back. Text that has no CP949 form is no text: empty, which no name may be.
+std::string Bytes(const QString& text);
+QString Text(const std::string& cp949);
+
+// A box with one button.
+void Tell(host::Questions& questions, const QString& text, const QString& caption,
+          host::Icon icon = host::Icon::Information);
+
+// A box that asks; whether the user says yes.
+bool Agrees(host::Questions& questions, const QString& text, const QString& caption);
+
+}  // namespace jogeon::terminal
