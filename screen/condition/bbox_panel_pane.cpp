@@ -3,10 +3,12 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QStyle>
+#include <system_error>
 
 #include "screen/condition/panel_commit.h"
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
+#include "screen/palette/colors.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -19,10 +21,15 @@ constexpr QRect kAddPlace{490, 10, 64, 24};
 constexpr QRect kModifyPlace{490, 40, 64, 24};
 constexpr QSize kPanelSize{563, 96};
 
-// Names come from a file: only a file of the folder itself can be meant.
+// Names come from a file: only a file of the folder itself can be meant, or its twin for dark windows where
+// there is one.
 FieldControlSet::PictureFile PicturesOf(host::LinkStore& links) {
     return [&links](const std::string& name) {
-        return GetDataFilePath(links, "Image/Pattern", std::filesystem::path(ToUtf8(name)).filename());
+        const std::filesystem::path file = std::filesystem::path(ToUtf8(name)).filename();
+        const std::filesystem::path dark = GetDataFilePath(links, "Image/Pattern/Dark", file);
+        std::error_code error;
+        const bool useDark = CurrentTheme() == Theme::Dark && std::filesystem::exists(dark, error);
+        return useDark ? dark : GetDataFilePath(links, "Image/Pattern", file);
     };
 }
 

@@ -36,6 +36,8 @@ public:
     // none: the panel is empty then, and its buttons do nothing.
     void ShowIndex(bool rebuild, const CIndexInfo* info, PanelMode mode);
 
+    void RefreshColors() { controls_.RefreshPictures(); }  // after a change of the colour table
+
     // Shows nothing. For an owner whose conditions go away.
     void Reset() { ShowIndex(false, nullptr, PanelMode::Empty); }
 

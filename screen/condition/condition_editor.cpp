@@ -74,10 +74,6 @@ void ConditionEditor::ResetSequence() {
     SetSequenceHighlight(0, true);
 }
 
-void ConditionEditor::RefreshSequenceMarks() {
-    for (int step = 1; step <= sequenceStep_; ++step) SetSequenceHighlight(step, false);
-}
-
 // Marks the step-th checked condition; those of earlier steps keep their marks. A reset takes all marks away.
 void ConditionEditor::SetSequenceHighlight(int step, bool reset) {
     if (reset) return view_.ClearSequenceMarks();

@@ -80,9 +80,6 @@ public:
     // Ends a sequential search: the step goes to 0 and the marks go from the grid.
     void ResetSequence();
 
-    // Paints the marks again, after a change of the colour table.
-    void RefreshSequenceMarks();
-
 private:
     bool IsRow(int index) const { return index >= 0 && index < static_cast<int>(conditions_.size()); }
     CIndexInfo& At(int index) { return *conditions_[static_cast<std::size_t>(index)]; }

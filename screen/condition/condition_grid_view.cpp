@@ -104,12 +104,12 @@ bool ConditionCells::ShowWholeText(QPoint position, QPoint globalPosition) {
 
 ConditionGrid::ConditionGrid(int id, QWidget* parent) : QWidget(parent), cells_(this) {
     cells_.Create(rect(), this, id);
-    cells_.setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    cells_.SetFixedCellColor(ColorOf(Color::GridHeaderBack));
+    cells_.setFrameStyle(QFrame::Panel | QFrame::Plain);
     cells_.FixScrollBar(false, true);
     cells_.SetDragAndDropColumn(kColumnContent);
     setFocusProxy(&cells_);
     MakeHeader();
+    RefreshColors();
 }
 
 void ConditionGrid::LinkEditor(ConditionEditor& editor) {
@@ -173,6 +173,16 @@ void ConditionGrid::ClearMarks() {
 void ConditionGrid::PaintLetterBack(int row, FBColour colour) {
     cells_.GetCell(row, kColumnLetter).backColour = colour;
     cells_.InvalidateCell(row, kColumnLetter);
+}
+
+// A marked cell keeps its mark.
+void ConditionGrid::RefreshColors() {
+    cells_.SetFixedCellColor(ColorOf(Color::GridHeaderBack));
+    for (int row = 1; row < cells_.GetRowCnt(); ++row) {
+        FBColour& back = cells_.GetCell(row, kColumnLetter).backColour;
+        if (back != fbcolour::kWindow) back = ColorOf(Color::SequenceMark);
+    }
+    cells_.viewport()->update();
 }
 
 bool ConditionGrid::event(QEvent* event) {

@@ -64,6 +64,8 @@ public:
     // A colour number, red in the low byte.
     void SetLineColor(std::uint32_t color) { cells_.SetGridLine(color); }
 
+    void RefreshColors();  // after a change of the colour table
+
     // The grid itself, for whoever saves it as a sheet.
     CFBGrid& Cells() { return cells_; }
 

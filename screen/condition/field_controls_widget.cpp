@@ -12,6 +12,7 @@
 #include "screen/condition/panel_commit.h"
 #include "screen/condition/spin_box_widget.h"
 #include "screen/condition/token_list.h"
+#include "screen/palette/edges_qt.h"
 
 namespace jogeon {
 namespace {
@@ -74,7 +75,10 @@ FieldControl* FieldControlSet::Add(const CIndexField& field, const PanelRect& re
     widget->setObjectName(QString::number(field.m_nId));
     widget->setGeometry(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
     widget->show();
-    if (widget->focusPolicy() != Qt::NoFocus) tabStops_.push_back(widget);
+    if (widget->focusPolicy() != Qt::NoFocus) {
+        widget->setPalette(EdgePalette());
+        tabStops_.push_back(widget);
+    }
     return made_[&field].controls.emplace_back(std::move(control)).get();
 }
 
@@ -155,15 +159,24 @@ void FieldControlSet::MakeRadios(CIndexField& field) {
 
 // A picture that can't be loaded leaves the control blank.
 void FieldControlSet::MakePicture(CIndexField& field) {
-    auto* label = new QLabel(&panel_);
-    label->setAlignment(Qt::AlignCenter);
+    auto* label = new PictureLabel(&panel_);
     field.m_pStatic = Add<PictureControl>(field, ControlRect(field), label);
     auto* control = static_cast<PictureControl*>(field.m_pStatic);
     if (!control) return;
-    control->picture.load(QString::fromStdString(pictureFile_(field.m_strItems).string()));
-    if (control->picture.isNull()) return;
-    label->setPixmap(control->picture);
-    field.m_hBitmap = &control->picture;
+    LoadPicture(field, *control);
+    if (!control->picture.isNull()) field.m_hBitmap = &control->picture;
+}
+
+void FieldControlSet::LoadPicture(const CIndexField& field, PictureControl& control) const {
+    control.picture.load(QString::fromStdString(pictureFile_(field.m_strItems).string()));
+    control.Show();
+}
+
+void FieldControlSet::RefreshPictures() {
+    for (const auto& [field, made] : made_) {
+        if (field->m_nType != kFieldPicture) continue;
+        for (const auto& control : made.controls) LoadPicture(*field, static_cast<PictureControl&>(*control));
+    }
 }
 
 }  // namespace jogeon

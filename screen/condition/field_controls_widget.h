@@ -17,11 +17,13 @@
 
 namespace jogeon {
 
+class PictureControl;
 class WidgetControl;
 
 class FieldControlSet {
 public:
-    // `panel` outlives this object. `pictureFile` gives the path of a pattern picture by its name.
+    // `panel` outlives this object. `pictureFile` gives the path of a pattern picture by its name,
+    // in the current theme.
     // `onChoice` is called when the user picks an option of a selector.
     using PictureFile = std::function<std::filesystem::path(const std::string& name)>;
     FieldControlSet(QWidget& panel, PictureFile pictureFile, std::function<void()> onChoice);
@@ -34,6 +36,9 @@ public:
 
     // Greys the controls of a field, or brings them back.
     void SetEnabled(const CIndexField& field, bool enabled);
+
+    // Shows the pictures as they are for the theme now.
+    void RefreshPictures();
 
     // The widgets that take the focus, in the order of their making.
     const std::vector<QWidget*>& TabStops() const { return tabStops_; }
@@ -52,6 +57,7 @@ private:
     void MakeCombo(CIndexField& field, bool editable);
     void MakeRadios(CIndexField& field);
     void MakePicture(CIndexField& field);
+    void LoadPicture(const CIndexField& field, PictureControl& control) const;
 
     QWidget& panel_;
     const PictureFile pictureFile_;

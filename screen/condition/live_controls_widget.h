@@ -6,11 +6,13 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QPainter>
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
 
 #include "screen/condition/index_field.h"
+#include "screen/fbgrid/fb_device_pixels_qt.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -88,9 +90,35 @@ public:
     }
 };
 
+// A picture, fainter while it is disabled: Qt's own way would put it on a grey box.
+class PictureLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr double kFaint = 0.35;
+        const QPixmap picture = pixmap();
+        const QSizeF spare = (QSizeF(size()) - picture.deviceIndependentSize()) / 2;
+        QPainter painter(this);
+        if (!isEnabled()) painter.setOpacity(kFaint);
+        painter.drawPixmap(FBDevicePixels(painter).Whole(QPointF(spare.width(), spare.height())), picture);
+    }
+};
+
 class PictureControl : public ControlOf<QLabel> {
 public:
     using ControlOf::ControlOf;
+
+    // Pixel by pixel on a dense display, since a smoothed enlargement would be blurred.
+    void Show() {
+        if (picture.isNull()) return at_.clear();
+        const qreal ratio = at_.devicePixelRatioF();
+        QPixmap shown = picture.scaled(picture.size() * ratio);
+        shown.setDevicePixelRatio(ratio);
+        at_.setPixmap(shown);
+    }
+
     QPixmap picture;
 };
 

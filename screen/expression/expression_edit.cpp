@@ -74,6 +74,11 @@ void ExpressionEdit::Recolour() {
     highlighter_->Recolour();
 }
 
+void ExpressionEdit::RefreshColors() {
+    highlighter_->RefreshColors();
+    SetHover({});  // the next pointer is drawn anew
+}
+
 void ExpressionEdit::TakeFocus() {
     setFocus();
 }

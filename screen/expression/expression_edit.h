@@ -38,6 +38,8 @@ public:
     void TakeFocus() override;
     void Select(TextSelection selection) override;
 
+    void RefreshColors();  // after a change of the colour table
+
 signals:
     // The user has changed the text: typed, pasted, cut, undone, dropped or toggled.
     void Edited();

@@ -7,6 +7,7 @@
 #include <QStyle>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/dialog_style_qt.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -24,6 +25,7 @@ constexpr int kHandSize = 2;  // steps larger than the text
 ExpressionErrorDialog::ExpressionErrorDialog(const std::string& marked) : text_(new QPlainTextEdit(this)) {
     setObjectName("21020");
     setWindowTitle("수식 오류");
+    StyleDialog(*this);
     FillText(marked);
     auto* ok = new QPushButton("확인", this);
     ok->setObjectName("1");

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "screen/expression/expression_help_texts.h"
+#include "screen/palette/dialog_style_qt.h"
 
 namespace jogeon {
 namespace {
@@ -21,6 +22,7 @@ ExpressionHelpDialog::ExpressionHelpDialog()
     : topics_(new QListWidget(this)), text_(new QPlainTextEdit(this)) {
     setObjectName("31513");
     setWindowTitle("수식 도움말");
+    StyleDialog(*this);
     topics_->setObjectName("31515");
     text_->setObjectName("31514");
     text_->setReadOnly(true);

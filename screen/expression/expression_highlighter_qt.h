@@ -24,6 +24,9 @@ public:
     // Gives all characters the looks of the finished text.
     void Recolour();
 
+    // Shows the same looks in the colours of the table as it is now.
+    void RefreshColors() { rehighlight(); }
+
 protected:
     void highlightBlock(const QString& text) override;
 

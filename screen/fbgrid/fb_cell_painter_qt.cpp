@@ -63,9 +63,9 @@ FBCellPainter::~FBCellPainter() {
 
 void FBCellPainter::DrawHeader(const CCell& cell, const QRect& rect) {
     if (rect.isEmpty()) return;
-    const QColor back = ToQColor(look_.fixedCellColour, look_.palette);
+    const QColor back = ToQColor(look_.FixedCellColour(), look_.palette);
     pixels_.Fill(rect, back);
-    const QRectF within = pixels_.RightBottomLines(rect, ToQColor(look_.gridLineColour, look_.palette));
+    const QRectF within = pixels_.RightBottomLines(rect, ToQColor(look_.GridLineColour(), look_.palette));
     DrawTextA(within, cell.text, cell.format, TextColourOn(back, fbcolour::kButtonText, look_.palette),
               QPointF());
 }
@@ -73,7 +73,7 @@ void FBCellPainter::DrawHeader(const CCell& cell, const QRect& rect) {
 void FBCellPainter::DrawCell(const CCell& cell, const QRect& rect, const QColor& back, Button button) {
     if (rect.isEmpty()) return;
     pixels_.Fill(rect, back);
-    const QRectF within = pixels_.RightBottomLines(rect, ToQColor(look_.gridLineColour, look_.palette));
+    const QRectF within = pixels_.RightBottomLines(rect, ToQColor(look_.GridLineColour(), look_.palette));
     QRectF textRect = within;
     if (const QPixmap* image = ImageOf(cell)) textRect.setLeft(DrawImage(*image, rect, within));
     if (cell.state & CCell::kCheck) DrawCheckBox(cell.check, rect, within);
@@ -108,13 +108,13 @@ void FBCellPainter::DrawCheckBox(std::uint32_t check, const QRect& rect, const Q
     const QRectF box(centre.x() - half, centre.y() - half, 2 * half, 2 * half);
     const ClipTo clip(dc_, within, box);
     if (check == CCell::kDisabled) {
-        const QColor shade = ToQColor(Color::FBCheckDisabledShade);
-        pixels_.Fill(pixels_.Frame(box, ToQColor(Color::FBCheckDisabledLight), shade),
-                     ToQColor(Color::FBCheckDisabledBack));
+        const QColor shade = ToQColor(look_.ThemeColour(Color::FBCheckDisabledShade));
+        pixels_.Fill(pixels_.Frame(box, ToQColor(look_.ThemeColour(Color::FBCheckDisabledLight)), shade),
+                     ToQColor(look_.ThemeColour(Color::FBCheckDisabledBack)));
         return;
     }
-    const QColor frame = ToQColor(Color::FBCheckFrame);
-    pixels_.Fill(pixels_.Frame(box, frame, frame), ToQColor(Color::FBCheckBack));
+    const QColor frame = ToQColor(look_.ThemeColour(Color::FBCheckFrame));
+    pixels_.Fill(pixels_.Frame(box, frame, frame), ToQColor(look_.ThemeColour(Color::FBCheckBack)));
     if (check == CCell::kOn) DrawTick(box.center(), half);
 }
 
@@ -127,7 +127,7 @@ void FBCellPainter::DrawTick(QPointF centre, qreal half) {
     const QPointF tip = centre + QPointF(3.5, -3.5) * sixth;
     dc_.setRenderHint(QPainter::Antialiasing);
     dc_.setPen(Qt::NoPen);
-    dc_.setBrush(ToQColor(Color::FBCheckTick));
+    dc_.setBrush(ToQColor(look_.ThemeColour(Color::FBCheckTick)));
     dc_.drawPolygon(QPolygonF({start, foot, tip, tip + thick, foot + thick, start + thick}));
     dc_.setRenderHint(QPainter::Antialiasing, false);
 }

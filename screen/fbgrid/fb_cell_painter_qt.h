@@ -10,24 +10,32 @@
 #include <QPixmap>
 #include <QRect>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "screen/fbgrid/fb_cell.h"
 #include "screen/fbgrid/fb_device_pixels_qt.h"
 #include "screen/fbgrid/fb_text_cache_qt.h"
+#include "screen/palette/theme_qt.h"
 
 namespace jogeon {
 
 // What the window adds to the data when it is drawn. It is best kept as long as the window, with its texts.
 struct FBGridLook {
-    FBColour fixedCellColour = 0xD2D2D2;
-    FBColour gridLineColour = 0x828282;
+    std::optional<FBColour> fixedCellColour;  // none: the palette's theme decides
+    std::optional<FBColour> gridLineColour;
     QFont font;
     QPalette palette;
     const std::vector<QPixmap>* images = nullptr;  // not owned; null for none
     CCellID pressedButton;                         // the push button that is drawn pressed
     std::shared_ptr<FBTextCache> texts = std::make_shared<FBTextCache>();
+
+    FBColour FixedCellColour() const { return fixedCellColour.value_or(ThemeColour(Color::FBHeaderBack)); }
+    FBColour GridLineColour() const { return gridLineColour.value_or(ThemeColour(Color::FBLine)); }
+
+    // A colour in the theme of the palette: a grid may stand in a window of any.
+    FBColour ThemeColour(Color color) const { return ColorOf(color, ThemeOf(palette)); }
 };
 
 class FBCellPainter {

@@ -1,13 +1,10 @@
 #include "screen/fbgrid/fb_colour_qt.h"
 
-#include <cstdlib>
-
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/contrast.h"
 
 namespace jogeon {
 namespace {
-
-constexpr int kReadable = 96;  // least difference of two greys, of 255, that a small text needs
 
 QPalette::ColorRole RoleOf(FBColour colour) {
     switch (colour) {
@@ -28,8 +25,12 @@ QPalette::ColorRole RoleOf(FBColour colour) {
     }
 }
 
+ColorNumber NumberOf(const QColor& color) {
+    return static_cast<ColorNumber>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
 bool CanBeRead(const QColor& text, const QColor& back) {
-    return std::abs(qGray(text.rgb()) - qGray(back.rgb())) >= kReadable;
+    return Contrast(NumberOf(text), NumberOf(back)) >= kFaintContrast;
 }
 
 }  // namespace
@@ -40,7 +41,9 @@ QColor ToQColor(FBColour colour, const QPalette& palette) {
 
 QColor TextColourOn(const QColor& back, FBColour text, const QPalette& palette) {
     const QColor wanted = ToQColor(text, palette);
-    return IsDesktopColour(text) && !CanBeRead(wanted, back) ? ToQColor(Color::FBText) : wanted;
+    return IsDesktopColour(text) && !CanBeRead(wanted, back)
+               ? ToQColor(ReadableOn(NumberOf(back), Color::FBText))
+               : wanted;
 }
 
 }  // namespace jogeon

@@ -23,6 +23,7 @@ struct RowMove {
     int minRow = 0;
     int maxRow = 0;
     CCellID cell;
+    FBColour mark = 0;  // background of its cells
 };
 
 using FBGesture = std::variant<std::monostate, ButtonPress, RowDrag, RowMove>;

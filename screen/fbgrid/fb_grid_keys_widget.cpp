@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "screen/fbgrid/fb_grid_parts_widget.h"
-#include "screen/palette/colors.h"
+#include "screen/palette/theme_qt.h"
 
 namespace jogeon {
 namespace {
@@ -99,10 +99,10 @@ void FBGridKeys::BeginMove(int minRow, int maxRow) {
     parts_.mouse.Cancel();
     const CCellID cell = grid_.GetFocusedCellID();
     if (!parts_.Exists(cell)) return;
-    parts_.gesture = RowMove{std::max(minRow, 0), std::min(maxRow, grid_.GetRowCnt() - 1), cell};
+    const FBColour mark = ColorOf(Color::FBMovingRow, ThemeOf(grid_.palette()));
+    parts_.gesture = RowMove{std::max(minRow, 0), std::min(maxRow, grid_.GetRowCnt() - 1), cell, mark};
     if (!parts_.focus.Kill(true)) grid_.SetFocusedCellID({});  // it is hidden by scrolling
-    for (int col = 0; col < grid_.GetColCnt(); ++col)
-        grid_.GetCell(cell.row, col).backColour = ColorOf(Color::FBMovingRow);
+    for (int col = 0; col < grid_.GetColCnt(); ++col) grid_.GetCell(cell.row, col).backColour = mark;
     grid_.InvalidateRow(cell.row);
 }
 
@@ -136,11 +136,12 @@ void FBGridKeys::DropMove() {
     const auto* move = std::get_if<RowMove>(&parts_.gesture);
     if (!move) return;
     const int last = std::min(move->cell.row, grid_.GetRowCnt() - 1);
+    const FBColour mark = move->mark;
     parts_.gesture = {};
     for (int row = 0; row <= last; ++row) {
         for (int col = 0; col < grid_.GetColCnt(); ++col) {
             FBColour& back = grid_.GetCell(row, col).backColour;
-            if (back == ColorOf(Color::FBMovingRow)) back = fbcolour::kWindow;
+            if (back == mark) back = fbcolour::kWindow;
         }
     }
     grid_.viewport()->update();

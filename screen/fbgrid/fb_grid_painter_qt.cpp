@@ -117,7 +117,8 @@ void FBGridPainter::DrawBodyCell(FBCellPainter& painter, int row, int col, const
 }
 
 void FBGridPainter::DrawFocusedCell(FBCellPainter& painter, int row, int col, const QRect& rect) const {
-    painter.DrawCell(grid_.GetCell(row, col), rect, ToQColor(Color::FBFocusedRow), ButtonAt(row, col));
+    painter.DrawCell(grid_.GetCell(row, col), rect, ToQColor(look_.ThemeColour(Color::FBFocusedRow)),
+                     ButtonAt(row, col));
 }
 
 // The whole row is marked, whatever the column of the focused cell.

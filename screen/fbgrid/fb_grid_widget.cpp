@@ -64,7 +64,7 @@ void CFBGrid::SetFixedCellColor(FBColour colour) {
 }
 
 FBColour CFBGrid::GetFixedCellColor() const {
-    return parts_->look.fixedCellColour;
+    return parts_->LookNow(parts_->look.pressedButton).FixedCellColour();
 }
 
 void CFBGrid::SetGridLine(FBColour colour) {

@@ -11,7 +11,7 @@
 
 #include "screen/fbgrid/fb_inplace_keys_qt.h"
 #include "screen/fbgrid/fb_window_class_qt.h"
-#include "screen/palette/colors_qt.h"
+#include "screen/palette/theme_qt.h"
 #include "screen/text/cp949_qt.h"
 
 namespace jogeon {
@@ -130,7 +130,8 @@ void FBInPlaceList::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().color(QPalette::Base));
     ShadeButton(painter, button, palette());
     DrawArrow(painter, button,
-              isEnabled() ? palette().color(QPalette::ButtonText) : ToQColor(Color::FBDisabledArrow));
+              isEnabled() ? palette().color(QPalette::ButtonText)
+                          : ToQColor(ColorOf(Color::FBDisabledArrow, ThemeOf(palette()))));
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (isEditable()) return;

@@ -56,6 +56,9 @@ enum class Color {
     TreeFolderEdge,
     ScreenBack,    // behind the controls of a screen
     SequenceMark,  // the letter of a condition that the sequential search has reached
+    FBHeaderBack,  // of a grid whose owner has chosen none, as the lines below
+    FBLine,
+    HostGridLine,  // what the terminal's colour map gives for the lines of grids
     ChartBack,
     ChartGrid,
     ChartText,

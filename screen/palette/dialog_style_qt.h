@@ -1,12 +1,12 @@
 // The look of the screen's dialogs, of its own colours.
 #pragma once
 
-#include <QString>
+class QDialog;
 
 namespace jogeon {
 
-// A style sheet for a dialog with buttons, edit boxes and lists with columns. The default button is the one
-// that stands out.
-QString DialogStyle();
+// Gives a dialog its colours in the current theme, and its buttons, edit boxes and lists their look. The
+// default button is the one that stands out.
+void StyleDialog(QDialog& dialog);
 
 }  // namespace jogeon

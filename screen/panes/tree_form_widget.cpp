@@ -18,8 +18,10 @@ constexpr int kControlHeight = 22;
 constexpr int kIndentation = 14;
 constexpr int kTabPadding = 4;  // leaves room for the counter beside the tabs
 
-// %1 face, %2 edge, %3 text, %4 faint text, %5 accent.
+// %1 face, %2 edge, %3 text, %4 faint text, %5 accent, %6 background.
 constexpr char kSheet[] = R"(
+jogeon--TreeForm { background: %6; }
+QToolTip { background: %1; border: 1px solid %2; color: %3; padding: 1px; }
 QToolButton, QPushButton { background: %1; border: 1px solid %2; border-radius: 2px; color: %3; }
 QToolButton:hover:enabled, QPushButton:hover { border-color: %5; }
 QToolButton:focus, QPushButton:focus { border-color: %5; }
@@ -27,16 +29,19 @@ QToolButton:pressed, QPushButton:pressed { background: %2; }
 QToolButton:disabled { color: %4; }
 QLineEdit { background: %1; border: 1px solid %2; border-radius: 2px; padding: 0 2px; color: %3; }
 QLineEdit:focus { border-color: %5; }
+QLabel { color: %3; }
 QTreeWidget { border: 1px solid %2; }
 )";
 
-void MakeColors(QWidget& view) {
-    QPalette colors = view.palette();
+// A style sheet gives a view's viewport a palette of its own, which has to follow.
+void MakeColors(QAbstractItemView& view) {
+    QPalette colors;  // what isn't set here stays as it is
     colors.setColor(QPalette::Base, ToQColor(Color::ControlFace));
     colors.setColor(QPalette::Text, ToQColor(Color::ControlText));
     colors.setColor(QPalette::Highlight, ToQColor(Color::GridSelectedRow));
     colors.setColor(QPalette::HighlightedText, ToQColor(Color::GridText));
     view.setPalette(colors);
+    view.viewport()->setPalette(colors);
 }
 
 }  // namespace
@@ -52,6 +57,7 @@ TreeForm::TreeForm(QWidget* parent)
       tree(this),
       list(this),
       save("엑셀 저장", this) {
+    setAttribute(Qt::WA_StyledBackground);
     NameControls();
     SetUpTree();
     tabs.AddTab("분류별"_cp949);
@@ -149,7 +155,7 @@ void TreeForm::RefreshColors() {
     const auto name = [](Color color) { return ToQColor(ColorOf(color)).name(); };
     setStyleSheet(QString::fromLatin1(kSheet).arg(name(Color::ControlFace), name(Color::ControlEdge),
                                                   name(Color::ControlText), name(Color::ControlFaintText),
-                                                  name(Color::Accent)));
+                                                  name(Color::Accent), name(Color::ScreenBack)));
     MakeColors(tree);
     MakeColors(list);
     tabs.RefreshColors();

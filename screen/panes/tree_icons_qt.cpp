@@ -1,49 +1,16 @@
 #include "screen/panes/tree_icons_qt.h"
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 
 #include "screen/condition/catalogue.h"
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/drawn_icon_qt.h"
 
 namespace jogeon {
 namespace {
 
-// Pictures are drawn on a square of this many units. A line of width 1 between units, at n + 0.5, fills whole
-// pixels at the usual size.
-constexpr double kUnits = 16;
-
 using Draw = void (*)(QPainter& painter, bool selected, bool open);
-
-// Draws afresh at each paint, so that pictures are sharp on any display and follow the colour table.
-class DrawnIcon : public QIconEngine {
-public:
-    explicit DrawnIcon(Draw draw) : draw_(draw) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / kUnits, rect.height() / kUnits);
-        if (mode == QIcon::Disabled) painter->setOpacity(0.4);
-        draw_(*painter, mode == QIcon::Selected, state == QIcon::On);
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, picture.rect(), mode, state);
-        return picture;
-    }
-
-    QIconEngine* clone() const override { return new DrawnIcon(draw_); }
-
-private:
-    Draw draw_;
-};
 
 void SetColors(QPainter& painter, Color edge, Color fill, double width = 1) {
     painter.setPen(QPen(ToQColor(edge), width, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
@@ -131,14 +98,20 @@ Draw DrawOf(int image) {
     }
 }
 
+QIcon IconOf(Draw draw) {
+    return DrawnIcon([draw](QPainter& painter, QIcon::Mode mode, QIcon::State state) {
+        draw(painter, mode == QIcon::Selected, state == QIcon::On);
+    });
+}
+
 }  // namespace
 
 QIcon TreeIcon(int image) {
-    return QIcon(new DrawnIcon(DrawOf(image)));
+    return IconOf(DrawOf(image));
 }
 
 QIcon FindIcon() {
-    return QIcon(new DrawnIcon(DrawGlass));
+    return IconOf(DrawGlass);
 }
 
 }  // namespace jogeon

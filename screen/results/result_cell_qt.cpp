@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "screen/fbgrid/fb_device_pixels_qt.h"
 #include "screen/palette/colors_qt.h"
 #include "screen/palette/contrast.h"
 #include "screen/results/result_model_qt.h"
@@ -92,9 +93,9 @@ QColor ResultCellDelegate::InkOf(const QStyleOptionViewItem& option, const QMode
     return ToQColor(ReadableOn(chosen, ink));
 }
 
+// As thick everywhere, whatever the scale of the display.
 void ResultCellDelegate::PaintLines(QPainter& painter, const QRect& rect) const {
-    painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, ToQColor(Color::GridLine));
-    painter.fillRect(rect.right(), rect.top(), 1, rect.height(), ToQColor(Color::GridLine));
+    FBDevicePixels(painter).RightBottomLines(rect, ToQColor(Color::GridLine));
 }
 
 }  // namespace jogeon

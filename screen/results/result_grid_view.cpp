@@ -249,9 +249,10 @@ void ResultGrid::SetRowColors(ColorNumber odd, ColorNumber even) {
 
 void ResultGrid::RefreshColors() {
     horizontalHeader()->setStyleSheet(HeaderStyle());
-    QPalette colors = palette();
+    QPalette colors;  // what isn't set here stays as it is
     colors.setColor(QPalette::Base, ToQColor(Color::GridOddRow));
     setPalette(colors);
+    viewport()->setPalette(colors);  // which a style sheet has given one of its own
     viewport()->update();
 }
 

@@ -21,7 +21,7 @@ ResultNoticePopup::ResultNoticePopup(QWidget& screen, host::Clock& clock, const 
     label->setAlignment(Qt::AlignCenter);
     label->setText(text.empty() ? QStringLiteral("검색된 종목이 없습니다.")
                                 : QString::fromStdString(ToUtf8(text)));
-    QPalette colors = label->palette();
+    QPalette colors;
     colors.setColor(QPalette::WindowText, ToQColor(Color::NoticeText));
     label->setPalette(colors);
 }

@@ -13,7 +13,7 @@ void SetUpDialog(QDialog& dialog, int id, const char* title, int width, int heig
     dialog.setWindowTitle(QString::fromUtf8(title));
     dialog.setModal(true);
     dialog.setFixedSize(width, height);
-    dialog.setStyleSheet(DialogStyle());
+    StyleDialog(dialog);
 }
 
 void PlaceControl(QWidget& widget, std::span<const DialogPlace> places, int id) {

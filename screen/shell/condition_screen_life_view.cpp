@@ -5,6 +5,7 @@
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/edges_qt.h"
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/saved/saved_condition_file.h"
 #include "screen/shell/condition_screen_view.h"
@@ -80,6 +81,7 @@ void ConditionScreen::MakeBackBrush() {
 
 void ConditionScreen::SetUpControls() {
     setStyleSheet(ScreenStyle(backBrush_.color()));
+    ShowEdges(form_);
     form_.SetCaptions();
     ShowTarget(saved_.Target());
     EnableSavedCommands(false);

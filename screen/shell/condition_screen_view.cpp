@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "screen/host/window_messages_qt.h"
-#include "screen/palette/colors_qt.h"
+#include "screen/palette/edges_qt.h"
+#include "screen/palette/theme_qt.h"
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/settings/settings_block.h"
 #include "screen/shell/host_color_numbers.h"
@@ -103,16 +104,22 @@ int ConditionScreen::ChangeEnvironment(int value) {
     return value;
 }
 
+// The theme comes first: all that follow paint in it.
 void ConditionScreen::ReadHostColors() {
+    SetTheme(ApplicationTheme());
     MakeBackBrush();
     setStyleSheet(ScreenStyle(backBrush_.color()));
     BuildConditionGrid();
     const QColor radio = ToQColor(services_.colors->GetColor(kRadioColor, 0));
+    const QString sheet = QStringLiteral("QRadioButton { background: %1; }").arg(radio.name());
     for (const int id : {control::kBuy, control::kSell}) {
-        // Under a style sheet a palette would have no effect.
-        form_.At(id).setStyleSheet(QStringLiteral("QRadioButton { background: %1; }").arg(radio.name()));
+        // Under a style sheet a palette would have no effect. What shows through needs neither.
+        form_.At(id).setStyleSheet(radio == backBrush_.color() ? QString() : sheet);
     }
-    editor_.RefreshSequenceMarks();
+    ShowEdges(form_);
+    conditionGrid_.RefreshColors();
+    expressionEdit_.RefreshColors();
+    panel_.RefreshColors();
     resultGrid_.RefreshColors();
     resultTabs_.RefreshColors();
     treeView_->RefreshColors();

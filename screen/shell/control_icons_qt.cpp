@@ -1,30 +1,22 @@
 #include "screen/shell/control_icons_qt.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
-#include <QPalette>
-#include <QPixmap>
-#include <QtMath>
+#include <utility>
 
+#include "screen/palette/colors_qt.h"
+#include "screen/palette/drawn_icon_qt.h"
 #include "screen/shell/control_table.h"
 
 namespace jogeon {
 namespace {
 
-constexpr int kSize = 16;  // logical pixels of a picture
-constexpr int kScale = 3;  // drawn larger, so that a dense display has enough of it
+constexpr double kMiddle = 8;  // of the 16 units of an icon
 
-template <typename Draw>
-QIcon Drawn(Draw draw) {
-    QPixmap picture(kSize * kScale, kSize * kScale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(kScale, kScale);
-    painter.setPen(QPen(QGuiApplication::palette().color(QPalette::ButtonText), 1.3));
-    draw(painter);
-    return QIcon(picture);
+QIcon Lined(std::function<void(QPainter&)> draw) {
+    return DrawnIcon([draw = std::move(draw)](QPainter& painter, QIcon::Mode, QIcon::State) {
+        painter.setPen(QPen(ToQColor(Color::ControlText), 1.3));
+        draw(painter);
+    });
 }
 
 // Candles of a chart.
@@ -32,13 +24,12 @@ void DrawChart(QPainter& painter) {
     for (const auto& [x, top, height, rising] :
          {std::tuple(2.0, 7.0, 5.0, true), {6.5, 4.0, 6.0, false}, {11.0, 3.0, 7.0, true}}) {
         painter.drawLine(QPointF(x + 1.5, top - 2), QPointF(x + 1.5, top + height + 2));
-        painter.fillRect(QRectF(x, top, 3, height),
-                         rising ? QColor(0xd6, 0x28, 0x28) : QColor(0x1f, 0x4e, 0xc8));
+        painter.fillRect(QRectF(x, top, 3, height), ToQColor(rising ? Color::GridRise : Color::GridFall));
     }
 }
 
 void DrawGear(QPainter& painter) {
-    painter.translate(kSize / 2.0, kSize / 2.0);
+    painter.translate(kMiddle, kMiddle);
     for (int tooth = 0; tooth < 8; ++tooth) {
         painter.drawLine(QPointF(0, -4), QPointF(0, -6.5));
         painter.rotate(45);
@@ -68,11 +59,11 @@ void DrawPaneArrow(QPainter& painter, bool closed) {
 QIcon ControlIcon(int id) {
     switch (id) {
         case control::kChart:
-            return Drawn(DrawChart);
+            return Lined(DrawChart);
         case control::kSettings:
-            return Drawn(DrawGear);
+            return Lined(DrawGear);
         case control::kSaveConditionsAsSheet:
-            return Drawn(DrawSheet);
+            return Lined(DrawSheet);
         case control::kLeftPaneToggle:
             return LeftPaneIcon(false);
         default:
@@ -81,7 +72,7 @@ QIcon ControlIcon(int id) {
 }
 
 QIcon LeftPaneIcon(bool closed) {
-    return Drawn([closed](QPainter& painter) { DrawPaneArrow(painter, closed); });
+    return Lined([closed](QPainter& painter) { DrawPaneArrow(painter, closed); });
 }
 
 }  // namespace jogeon

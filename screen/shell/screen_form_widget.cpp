@@ -59,6 +59,7 @@ QPushButton* MakeButton(int id, QWidget* parent) {
 }  // namespace
 
 ScreenForm::ScreenForm(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_StyledBackground);
     resize(kFormWidth, kFormHeight);
     for (const Control& control : ScreenControls()) {
         if (QWidget* made = Make(control)) Place(*made, control.id, control.id);

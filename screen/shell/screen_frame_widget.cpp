@@ -3,6 +3,7 @@
 #include <QEvent>
 
 #include "screen/host/window_messages_qt.h"
+#include "screen/palette/theme_qt.h"
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/shell/condition_screen_view.h"
 
@@ -11,6 +12,7 @@ namespace jogeon {
 ScreenFrame::ScreenFrame(QWidget& parent, host::WindowHandle hostWindow) : QWidget(&parent), splitter_(this) {
     setGeometry(parent.rect());
     parent.installEventFilter(this);
+    SetTheme(ApplicationTheme());
 
     auto* tree = new CMenuTreeView(&splitter_);
     screen_ = new ConditionScreen(hostWindow, &splitter_);

@@ -7,6 +7,7 @@
 
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
+#include "screen/palette/colors_qt.h"
 #include "screen/settings/screen_settings.h"
 #include "screen/text/bytes.h"
 
@@ -29,12 +30,10 @@ protected:
 
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.fillRect(rect(), palette().button());
-        const QRect inner = rect().adjusted(1, 0, -2, -1);
-        painter.setPen(palette().color(QPalette::Dark));
-        painter.drawLine(inner.topLeft(), inner.bottomLeft());
-        painter.setPen(palette().color(QPalette::Light));
-        painter.drawLine(inner.topRight(), inner.bottomRight());
+        const QColor edge = ToQColor(Color::ControlEdge);
+        painter.fillRect(rect(), ToQColor(Color::ScreenBack));
+        painter.fillRect(1, 0, 1, height(), edge);
+        painter.fillRect(width() - 2, 0, 1, height(), edge);
     }
 
 private:

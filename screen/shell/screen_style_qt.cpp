@@ -18,8 +18,9 @@ QPushButton:pressed { background: %2; }
 QPushButton:disabled { color: %5; background: %1; }
 QPushButton#%7 { background: %6; color: %14; font-weight: bold; border-color: %6; }
 QPushButton#%7:pressed { background: %4; }
-QLabel { color: %4; }
-QRadioButton { color: %4; }
+QLabel, QRadioButton, QCheckBox { color: %4; }
+CFBGrid, jogeon--ResultGrid { border: 1px solid %2; }
+QToolTip { background: %3; border: 1px solid %2; color: %4; padding: 1px; }
 QPlainTextEdit#%8 { background: %9; border: 1px solid %2; color: %4; font-weight: bold; }
 QLabel#%10 { font-weight: bold; }
 QLabel#%11 { background: %3; border: 1px solid %2; padding-left: 4px; }

@@ -6,6 +6,8 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "screen/palette/dialog_style_qt.h"
+#include "screen/palette/edges_qt.h"
 #include "screen/target/target_dialog_controls.h"
 #include "screen/target/target_tree_widget.h"
 #include "screen/text/cp949.h"
@@ -41,6 +43,7 @@ TargetDialog::TargetDialog(const host::Services& services, const TargetFields& t
       otherMonth_(Named(new QComboBox, kOtherMonthId)) {
     Named(this, kDialogId);
     setWindowTitle("대상변경");
+    StyleDialog(*this);
     auto* layout = new QGridLayout(this);
     layout->addWidget(MakeUniverse(), 0, 0, 2, 1);
     layout->addWidget(MakeExclusions(), 0, 1);
@@ -48,6 +51,7 @@ TargetDialog::TargetDialog(const host::Services& services, const TargetFields& t
     layout->addLayout(MakeButtons(), 2, 0, 1, 2);
     layout->setColumnStretch(0, 1);
     layout->setRowStretch(1, 1);
+    ShowEdges(*this);
     ShowTarget(target);
     resize(sizeHint().expandedTo(kSize));
 }

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/edges_qt.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -46,7 +47,7 @@ TargetTreeWidget::TargetTreeWidget(TargetTree& tree, Opened opened, QWidget* par
     setIndentation(kIndentation);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    QPalette colors = palette();
+    QPalette colors = EdgePalette();
     colors.setColor(QPalette::Highlight, ToQColor(Color::GridSelectedRow));
     colors.setColor(QPalette::HighlightedText, ToQColor(Color::ControlText));
     setPalette(colors);

@@ -1,7 +1,8 @@
-// The host's colour map: a few numbered colours that screens ask for.
+// The host's colour map: a few numbered colours that screens ask for, in the theme of the application.
 #pragma once
 
 #include "screen/host/services.h"
+#include "screen/palette/theme_qt.h"
 
 namespace jogeon::terminal {
 
@@ -10,9 +11,7 @@ public:
     // Index 0 is the background, 0x34 that of radio buttons, 0x41 the line of grids; others are the
     // background.
     std::uint32_t GetColor(int index, int) override {
-        constexpr std::uint32_t kBackground = 0xf4f1ef;
-        constexpr std::uint32_t kGridLine = 0xd8d2cd;
-        return index == 0x41 ? kGridLine : kBackground;
+        return ColorOf(index == 0x41 ? Color::HostGridLine : Color::ScreenBack, ApplicationTheme());
     }
 };
 

@@ -1,7 +1,8 @@
 // Draws the pictures of candle patterns that the parameter panel shows.
 //
-// patternpictures FOLDER NAME.bmp ...: each picture goes into the folder. A name that no pattern has is told
-// and ends with 2, so that the catalogue can't name a picture that isn't there.
+// patternpictures FOLDER NAME.bmp ...: each picture goes into the folder, and one for dark windows into its
+// subfolder Dark. A name that no pattern has is told and ends with 2, so that the catalogue can't name a
+// picture that isn't there.
 
 #include <QColor>
 #include <QImage>
@@ -83,13 +84,19 @@ QImage Draw(const Pattern& pattern) {
     return picture;
 }
 
+bool SaveIn(Theme theme, const Pattern& pattern, const std::string& path) {
+    SetTheme(theme);
+    if (Draw(pattern).save(QString::fromStdString(path), "BMP")) return true;
+    std::fprintf(stderr, "patternpictures: %s can't be written\n", path.c_str());
+    return false;
+}
+
 bool Save(const std::string& folder, std::string_view name) {
     for (const Pattern& pattern : kPatterns) {
         if (pattern.file != name) continue;
-        const std::string path = folder + "/" + std::string(name);
-        if (Draw(pattern).save(QString::fromStdString(path), "BMP")) return true;
-        std::fprintf(stderr, "patternpictures: %s can't be written\n", path.c_str());
-        return false;
+        const std::string file(name);
+        return SaveIn(Theme::Light, pattern, folder + "/" + file) &&
+               SaveIn(Theme::Dark, pattern, folder + "/Dark/" + file);
     }
     std::fprintf(stderr, "patternpictures: there is no pattern for %s\n", std::string(name).c_str());
     return false;

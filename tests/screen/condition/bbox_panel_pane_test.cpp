@@ -15,9 +15,11 @@
 #include "screen/condition/catalogue.h"
 #include "screen/condition/spin_box_widget.h"
 #include "screen/host/window_messages_qt.h"
+#include "screen/palette/colors.h"
 #include "screen/shell/screen_style_qt.h"
 #include "tests/screen/support/condition_files.h"
 #include "tests/screen/support/recorders.h"
+#include "tests/screen/support/text_room.h"
 
 namespace jogeon::test {
 namespace {
@@ -311,37 +313,31 @@ TEST_F(BBoxPanelTest, SurvivesAbsurdFields) {
     EXPECT_EQ(catalogue_.FindFieldsByKey("0101010008")->size(), panel_.TakeCondition()->m_pFields->size());
 }
 
-// Room that a control of this kind has for its text.
-int TextRoom(const QWidget& widget) {
-    QStyle& style = *widget.style();
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-        QStyleOptionComboBox option;
-        option.initFrom(combo);
-        return style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
-            .width();
+// The picture for dark windows is used where there is one, live, and the other one elsewhere.
+TEST_F(BBoxPanelTest, PicturesFollowTheTheme) {
+    const std::string folder = folder_.Path().string() + "/Image/Pattern";
+    std::filesystem::create_directories(folder + "/Dark");
+    QImage picture(20, 10, QImage::Format_RGB32);
+    for (const auto& [file, color] :
+         {std::pair("/picture.bmp", Qt::red), {"/Dark/picture.bmp", Qt::blue}, {"/missing.bmp", Qt::green}}) {
+        picture.fill(color);
+        ASSERT_TRUE(picture.save(QString::fromStdString(folder + file)));
     }
-    if (const auto* radio = qobject_cast<const QRadioButton*>(&widget)) {
-        QStyleOptionButton option;
-        option.initFrom(radio);
-        return style.subElementRect(QStyle::SE_RadioButtonContents, &option, radio).width();
-    }
-    const auto* entry = widget.findChild<QLineEdit*>();
-    constexpr int kEntryMargins = 6;
-    return widget.inherits("QLineEdit") ? widget.width() - kEntryMargins
-           : entry                      ? entry->width() - kEntryMargins
-                                        : widget.contentsRect().width();
+    Load(kAllTypes);
+    Show();
+    const auto colorOf = [&](int id) { return At<QLabel>(id).pixmap().toImage().pixelColor(5, 5); };
+    EXPECT_EQ(QColor(Qt::red), colorOf(70));
+    SetTheme(Theme::Dark);
+    panel_.RefreshColors();
+    EXPECT_EQ(QColor(Qt::blue), colorOf(70));
+    EXPECT_EQ(QColor(Qt::green), colorOf(71));
+    SetTheme(Theme::Light);
 }
 
+// What a field may come to show: what it shows now, or the ends of its range.
 QStringList TextsOf(const QWidget& widget, const CIndexField* field) {
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-        QStringList texts;
-        for (int i = 0; i < combo->count(); ++i) texts << combo->itemText(i);
-        return texts;
-    }
-    if (field && field->m_bRange) {
-        return {QString::number(field->m_dMin, 'f', 0), QString::number(field->m_dMax, 'f', 0)};
-    }
-    return {widget.property("text").toString()};
+    if (!field || !field->m_bRange) return test::TextsOf(widget);
+    return {QString::number(field->m_dMin, 'f', 0), QString::number(field->m_dMax, 'f', 0)};
 }
 
 // Every indicator that is shipped: on the panel, nothing over anything, no text cut.
@@ -362,7 +358,7 @@ TEST_F(BBoxPanelTest, LaysOutTheWholeCatalogue) {
                 if (candidate->m_nId == widget->objectName().toInt()) field = candidate.get();
             }
             for (const QString& text : TextsOf(*widget, field)) {
-                EXPECT_LE(widget->fontMetrics().horizontalAdvance(text), TextRoom(*widget))
+                EXPECT_LE(widget->fontMetrics().horizontalAdvance(text), TextRoom(*widget).width())
                     << text.toStdString();
             }
             for (const QWidget* other : controls) {

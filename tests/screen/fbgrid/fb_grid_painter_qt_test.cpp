@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/fbgrid/fb_colour_qt.h"
+#include "screen/palette/colors_qt.h"
 #include "screen/text/cp949.h"
 #include "tests/screen/support/images.h"
 
@@ -329,6 +330,28 @@ TEST_F(FBGridPainterTest, WhatWasLaidOutBeforeIsDrawnAsIfNew) {
     expectAsNew("other_width");
     look.font.setPointSize(12);
     expectAsNew("other_font");
+}
+
+// The window's palette decides, not the colours of a screen; what a client sets by number stays.
+TEST_F(FBGridPainterTest, ADarkWindowHasDarkHeadersAndLinesAndTheClientsColours) {
+    Make(3, {30, 40});
+    grid.SetFixedRowCnt(1);
+    grid[2][1].backColour = 0x80FFFF;
+    grid[2][1].text = "W";
+    grid[1][0].state = CCell::kCheck;
+    grid.SetFocusedCellID({1, 0});
+    look.palette.setColor(QPalette::Window, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) look.palette.setColor(role, Qt::white);
+    look.palette.setColor(QPalette::Base, Qt::black);
+    FitClient();
+    const QImage image = Drawn();
+    const auto dark = [](Color color) { return ToQColor(ColorOf(color, Theme::Dark)).rgb(); };
+    EXPECT_EQ(dark(Color::FBHeaderBack), image.pixel(2, 2));
+    EXPECT_EQ(dark(Color::FBLine), image.pixel(29, 5));
+    EXPECT_EQ(dark(Color::FBFocusedRow), image.pixel(2, 20));
+    EXPECT_EQ(dark(Color::FBCheckBack), image.pixel(15, 27));
+    EXPECT_EQ(qRgb(255, 255, 128), image.pixel(32, 38));
+    EXPECT_TRUE(test::HasNear(image, 50, 45, qRgb(0, 0, 0), 18)) << "black text on the client's yellow";
 }
 
 TEST(FBGridPainterColourTest, DesktopColoursFollowThePaletteAndTextCanBeRead) {

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
 #include <QLineEdit>
 #include <memory>
 
@@ -65,6 +66,12 @@ public:
     void PressSave() {
         frame_.findChild<QAbstractButton*>("21024")->click();
         Settle();
+    }
+
+    // The whole screen, as it is when Qt has told all its windows what there is to tell.
+    QImage Picture() {
+        QApplication::processEvents();
+        return frame_.grab().toImage();
     }
 
     // The user's sets in the tree, with the firm's behind them.
