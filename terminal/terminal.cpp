@@ -10,6 +10,7 @@
 #include "server/remote/remote_service.h"
 #include "server/service/local_service.h"
 #include "terminal/host/parting.h"
+#include "terminal/interest/interest_screen.h"
 #include "terminal/trace.h"
 #include "terminal/window/help_window.h"
 #include "terminal/window/key_table.h"
@@ -95,6 +96,7 @@ Terminal::Terminal(const Options& options, std::vector<ScreenKind> screens, host
       questions_(questions ? *questions : *ownQuestions_),
       workplace_{options.user.toStdString(), *service_, links_, questions_, workers_},
       settings_(links_, questions_),
+      interests_(workplace_, [this](const std::string& group, bool show) { OnInterestSaved(group, show); }),
       desk_(std::make_unique<ScreenDesk>(window_, workplace_, state_, std::move(screens))),
       menu_(window_, desk_->Known(), [this] { return desk_->OpenOnes(); }),
       watch_(workplace_, clock_, window_.Foot()) {
@@ -118,11 +120,20 @@ Terminal::~Terminal() {
     EndWork(workers_, *service_);
 }
 
-// The settings dialog, the interest groups and the sheets are built before this, behind the workplace, and
-// stand here in this order.
 void Terminal::InstallServices() {
-    host::Install({&communication_, &links_, &codeLists_, &colors_, &questions_, &clock_, &settings_, nullptr,
-                   nullptr});
+    host::Install({&communication_, &links_, &codeLists_, &colors_, &questions_, &clock_, &settings_,
+                   &interests_, nullptr});
+}
+
+void Terminal::OnInterestSaved(const std::string& group, bool show) {
+    if (show) desk_->Open(InterestScreen::kNumber, false);
+    auto* screen = qobject_cast<InterestScreen*>(desk_->Screen(InterestScreen::kNumber));
+    if (!screen) return;
+    if (show) {
+        screen->ShowGroup(group);
+    } else {
+        screen->Refresh();
+    }
 }
 
 void Terminal::WireTroubles() {

@@ -14,6 +14,7 @@
 #include "terminal/host/host_colors.h"
 #include "terminal/host/links.h"
 #include "terminal/host/questions.h"
+#include "terminal/interest/interest_save.h"
 #include "terminal/language.h"
 #include "terminal/main_window.h"
 #include "terminal/options.h"
@@ -49,6 +50,7 @@ private:
     void WireMenu();
     void WireState();
     void RestoreWindow();
+    void OnInterestSaved(const std::string& group, bool show);
 
     const HomeFolder home_;
     QtClock clock_;
@@ -68,6 +70,7 @@ private:
     QThreadPool workers_;
     const Workplace workplace_;
     SettingsDialogHost settings_;
+    InterestSave interests_;
     std::unique_ptr<ScreenDesk> desk_;
     MainMenu menu_;
     ServiceWatch watch_;

@@ -7,12 +7,8 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "screen/palette/colors_qt.h"
-
 namespace jogeon {
 namespace {
-
-constexpr int kShadeOfEdges = 140;  // percent, as the style has it
 
 template <typename Control>
 void ShowEdgesOf(QWidget& window) {
@@ -20,12 +16,6 @@ void ShowEdgesOf(QWidget& window) {
 }
 
 }  // namespace
-
-QPalette EdgePalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Window, ToQColor(Color::ControlEdge).lighter(kShadeOfEdges));
-    return palette;
-}
 
 void ShowEdges(QWidget& window) {
     ShowEdgesOf<QCheckBox>(window);

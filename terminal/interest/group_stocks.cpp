@@ -46,7 +46,7 @@ GroupStocks::GroupStocks(PortfolioBook& book, host::Questions& questions, QWidge
                         tr("클립보드에 있는 종목코드나 종목명을 추가합니다 (Ctrl+V)"))) {
     input_->setObjectName("stockInput");
     input_->setPlaceholderText(tr("추가할 종목의 이름이나 코드"));
-    input_->SetListPalette(InterestPalette());
+    input_->SetListPalette(ListPalette());
     stocks_->setObjectName("stocks");
     count_->setObjectName("stockCount");
     auto* layout = new QVBoxLayout(this);
@@ -104,7 +104,7 @@ void GroupStocks::Show(const std::string& group, bool anew) {
 
 void GroupStocks::RefreshColors() {
     stocks_->RefreshColors();
-    input_->SetListPalette(InterestPalette());
+    input_->SetListPalette(ListPalette());
 }
 
 void GroupStocks::EnableButtons() {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "screen/palette/edges_qt.h"
 #include "terminal/interest/interest_look.h"
 #include "terminal/interest/portfolio_texts.h"
 #include "terminal/interest/stock_table.h"
@@ -35,7 +36,7 @@ HoldingsDialog::HoldingsDialog(const HoldingsFile& file, const PortfolioBook& bo
       advice_(new QLabel),
       ok_(new QPushButton(tr("가져오기"))) {
     setWindowTitle(tr("보유종목 가져오기"));
-    setPalette(InterestPalette());
+    setPalette(ListPalette());
     accounts_->setObjectName("account");
     accounts_->setEditable(true);
     accounts_->setInsertPolicy(QComboBox::NoInsert);
@@ -45,7 +46,7 @@ HoldingsDialog::HoldingsDialog(const HoldingsFile& file, const PortfolioBook& bo
         accounts_->addItem(format(account.number), QString::fromStdString(account.number));
     accounts_->setCurrentIndex(std::max(0, accounts_->findData(QString::fromStdString(chosen))));
     without_->setObjectName("withoutRefused");
-    LookLikeChoice(*without_);
+    without_->setPalette(EdgePalette());
     advice_->setObjectName("advice");
     advice_->setWordWrap(true);
     ok_->setObjectName("take");

@@ -8,6 +8,7 @@
 #include <set>
 #include <utility>
 
+#include "screen/palette/edges_qt.h"
 #include "terminal/interest/interest_look.h"
 #include "terminal/interest/portfolio_texts.h"
 
@@ -20,7 +21,7 @@ constexpr QSize kButtonSize(80, 26);
 QRadioButton* Radio(const QString& caption, const char* name, QButtonGroup* group) {
     auto* radio = new QRadioButton(caption);
     radio->setObjectName(name);
-    LookLikeChoice(*radio);
+    radio->setPalette(EdgePalette());
     group->addButton(radio);
     return radio;
 }
@@ -44,7 +45,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
       advice_(new QLabel),
       ok_(new QPushButton(tr("저장"))) {
     setWindowTitle(tr("관심그룹 저장"));
-    setPalette(InterestPalette());
+    setPalette(ListPalette());
     auto* where = new QButtonGroup(this);
     existing_ = Radio(tr("기존 그룹"), "existing", where);
     new_ = Radio(tr("새 그룹"), "new", where);

@@ -1,5 +1,6 @@
 #include "terminal/interest/interest_look.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
@@ -13,30 +14,14 @@ namespace {
 
 constexpr int kRowPadding = 6;  // pixels of a row beyond its text's height
 
+// What lists have of their own; the rest is every window's.
 constexpr std::pair<QPalette::ColorRole, Color> kRoles[] = {
-    {QPalette::Window, Color::ScreenBack},
-    {QPalette::WindowText, Color::ControlText},
     {QPalette::Base, Color::GridOddRow},
     {QPalette::AlternateBase, Color::GridEvenRow},
     {QPalette::Text, Color::GridText},
-    {QPalette::Button, Color::ControlFace},
-    {QPalette::ButtonText, Color::ControlText},
-    {QPalette::BrightText, Color::AccentText},
     {QPalette::Highlight, Color::GridSelectedRow},
     {QPalette::HighlightedText, Color::GridText},
-    {QPalette::PlaceholderText, Color::ControlFaintText},
-    {QPalette::Light, Color::ControlFace},
-    {QPalette::Midlight, Color::TabBack},
-    {QPalette::Mid, Color::ControlEdge},
-    {QPalette::Dark, Color::ControlEdge},
-    {QPalette::Shadow, Color::ControlEdge},
-    {QPalette::ToolTipBase, Color::NoticeBack},
-    {QPalette::ToolTipText, Color::NoticeText},
-    {QPalette::Link, Color::Accent},
 };
-
-constexpr QPalette::ColorRole kTexts[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                                          QPalette::HighlightedText};
 
 constexpr int kCaptionPadding = 22;  // pixels of a button beyond its caption's width
 
@@ -46,11 +31,10 @@ int RowHeight(const QWidget& list) {
 
 }  // namespace
 
-QPalette InterestPalette() {
-    QPalette palette;
-    for (const auto& [role, color] : kRoles) palette.setColor(role, ToQColor(color));
-    for (QPalette::ColorRole role : kTexts)
-        palette.setColor(QPalette::Disabled, role, ToQColor(Color::ControlFaintText));
+QPalette ListPalette() {
+    QPalette palette = QGuiApplication::palette();
+    for (const auto& [role, color] : kRoles) palette.setColor(QPalette::All, role, ToQColor(color));
+    palette.setColor(QPalette::Disabled, QPalette::Text, ToQColor(Color::ControlFaintText));
     return palette;
 }
 
@@ -81,13 +65,6 @@ void LookLikeList(QTreeView& tree) {
 
 void LookLikeRow(QTreeWidgetItem& item) {
     item.setSizeHint(0, QSize(0, RowHeight(*item.treeWidget())));
-}
-
-// The style draws the outline in a shade of the window's colour.
-void LookLikeChoice(QAbstractButton& button) {
-    QPalette palette = InterestPalette();
-    palette.setColor(QPalette::Window, ToQColor(Color::ControlFaintText));
-    button.setPalette(palette);
 }
 
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& tooltip) {

@@ -66,7 +66,7 @@ void InterestScreen::OnOpened(bool) {
 }
 
 void InterestScreen::OnThemeChanged() {
-    setPalette(InterestPalette());
+    setPalette(ListPalette());
     setAutoFillBackground(true);
     groups_->RefreshColors();
     holdings_->RefreshColors();

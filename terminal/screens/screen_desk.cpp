@@ -159,6 +159,11 @@ void ScreenDesk::AddDock(const ScreenKind& kind) {
     connect(dock, &QDockWidget::dockLocationChanged, this, &ScreenDesk::NoteChange, Qt::QueuedConnection);
 }
 
+OwnScreen* ScreenDesk::Screen(const QString& number) const {
+    const ScreenDock* dock = Find(number);
+    return dock ? dock->Screen() : nullptr;
+}
+
 ScreenDock* ScreenDesk::Find(const QString& number) const {
     const auto found = std::find_if(docks_.begin(), docks_.end(),
                                     [&](const auto* dock) { return dock->Number() == number; });

@@ -39,6 +39,9 @@ public:
     void Close(const QString& number);
     void CloseAll();
 
+    // The screen with this number, null while it is closed.
+    OwnScreen* Screen(const QString& number) const;
+
     // Puts all docks to the right of screen 0150, one behind the other.
     void ResetPlaces();
 

@@ -1,8 +1,11 @@
 #include "terminal/settings/settings_dialog.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include "screen/palette/edges_qt.h"
 
 namespace jogeon::terminal {
 
@@ -20,6 +23,7 @@ SettingsDialog::SettingsDialog(const SettingsChoice& start, SettingsChoice defau
     AddButtons(*layout);
     for (SettingsPage* page : pages_) page->Show(start.settings);
     columns_.Show(start.columns);
+    for (auto* box : findChildren<QCheckBox*>()) box->setPalette(EdgePalette());
 }
 
 void SettingsDialog::AddButtons(QLayout& layout) {

@@ -24,32 +24,16 @@ constexpr Role kRoles[] = {
 constexpr QPalette::ColorRole kFaintWhenDisabled[] = {QPalette::WindowText, QPalette::Text,
                                                       QPalette::ButtonText};
 
-// Answers for another theme while it lives.
-class Borrowed {
-public:
-    explicit Borrowed(Theme theme) : before_(CurrentTheme()) { SetTheme(theme); }
-    ~Borrowed() { SetTheme(before_); }
-    Borrowed(const Borrowed&) = delete;
-    Borrowed& operator=(const Borrowed&) = delete;
-
-private:
-    const Theme before_;
-};
-
 }  // namespace
 
 QPalette PaletteOf(Theme theme) {
-    const Borrowed borrowed(theme);
-    QPalette palette(ToQColor(Color::ControlFace), ToQColor(Color::ScreenBack));
-    for (const Role& role : kRoles) palette.setColor(role.role, ToQColor(role.color));
+    const auto shown = [theme](Color color) { return ToQColor(ColorOf(color, theme)); };
+    QPalette palette(shown(Color::ControlFace), shown(Color::ScreenBack));
+    for (const Role& role : kRoles) palette.setColor(role.role, shown(role.color));
     for (const QPalette::ColorRole role : kFaintWhenDisabled)
-        palette.setColor(QPalette::Disabled, role, ToQColor(Color::ControlFaintText));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, ToQColor(Color::ControlEdge));
+        palette.setColor(QPalette::Disabled, role, shown(Color::ControlFaintText));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, shown(Color::ControlEdge));
     return palette;
-}
-
-bool IsDark(const QPalette& palette) {
-    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
 }  // namespace jogeon::terminal

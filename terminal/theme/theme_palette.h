@@ -7,10 +7,7 @@
 
 namespace jogeon::terminal {
 
-// The palette of every window in a theme, of the colours of screen/palette. Leaves CurrentTheme as it is.
+// The palette of every window in a theme, of the colours of screen/palette.
 QPalette PaletteOf(Theme theme);
-
-// Whether a palette has light text on a dark ground.
-bool IsDark(const QPalette& palette);
 
 }  // namespace jogeon::terminal

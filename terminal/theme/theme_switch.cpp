@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "screen/palette/theme_qt.h"
 #include "terminal/theme/theme_palette.h"
 
 namespace jogeon::terminal {
@@ -51,7 +52,7 @@ void ThemeSwitch::OnDesktopChanged() {
 }
 
 Theme ThemeSwitch::Wanted() const {
-    if (choice_ == ThemeChoice::Auto) return IsDark(desktop_()) ? Theme::Dark : Theme::Light;
+    if (choice_ == ThemeChoice::Auto) return ThemeOf(desktop_());
     return choice_ == ThemeChoice::Dark ? Theme::Dark : Theme::Light;
 }
 

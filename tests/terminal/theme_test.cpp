@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/palette/theme_qt.h"
 #include "terminal/theme/theme_palette.h"
 #include "tests/terminal/support/live_terminal.h"
 
@@ -32,7 +33,7 @@ TEST(ThemePaletteTest, TextIsLegibleOnItsGroundInBothThemes) {
                 << text << static_cast<int>(theme);
         EXPECT_GT(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
                   2.8);
-        EXPECT_EQ(IsDark(palette), theme == Theme::Dark);
+        EXPECT_EQ(theme, ThemeOf(palette));
         EXPECT_EQ(CurrentTheme(), Theme::Light) << "left as it was";
     }
 }
@@ -42,7 +43,7 @@ TEST(ThemeSwitchTest, AutoFollowsTheDesktopAndAChoiceDoesNot) {
     {
         ThemeSwitch themes(ThemeChoice::Auto, [&] { return desktop; });
         EXPECT_EQ(CurrentTheme(), Theme::Dark);
-        EXPECT_TRUE(IsDark(QApplication::palette()));
+        EXPECT_EQ(Theme::Dark, ThemeOf(QApplication::palette()));
         desktop = PaletteOf(Theme::Light);
         themes.OnDesktopChanged();
         EXPECT_EQ(CurrentTheme(), Theme::Light);
@@ -50,7 +51,7 @@ TEST(ThemeSwitchTest, AutoFollowsTheDesktopAndAChoiceDoesNot) {
         themes.OnDesktopChanged();
         EXPECT_EQ(CurrentTheme(), Theme::Dark);
     }
-    EXPECT_FALSE(IsDark(QApplication::palette())) << "the desktop's again";
+    EXPECT_EQ(Theme::Light, ThemeOf(QApplication::palette())) << "the desktop's again";
 }
 
 class ThemeTest : public LiveTerminal {};
@@ -60,24 +61,24 @@ TEST_F(ThemeTest, ASwitchReachesModuleAndOwnScreensAtOnceAndIsKept) {
     Send(host::kOpenScreen, "0615");
     const QWidget& module = *Window().Frame().findChild<QSplitter*>();
     const QWidget& form = *Window().Frame().findChild<QAbstractButton*>("21039")->parentWidget();
-    ASSERT_FALSE(IsDark(module.palette()));
+    ASSERT_EQ(Theme::Light, ThemeOf(module.palette()));
     const QColor light = Window().palette().color(QPalette::Window);
     Action("dark").trigger();
     QApplication::processEvents();
-    EXPECT_TRUE(IsDark(module.palette()));
+    EXPECT_EQ(Theme::Dark, ThemeOf(module.palette()));
     EXPECT_TRUE(form.parentWidget()->styleSheet().contains(ToQColor(HostColors().GetColor(0, 0)).name()));
     EXPECT_EQ(Screen("0615")->themeWindow, ToQColor(Color::ScreenBack)) << "told when its palette is there";
     EXPECT_NE(Window().palette().color(QPalette::Window), light);
 
     OpenAgain();
-    EXPECT_TRUE(IsDark(Window().palette()));
+    EXPECT_EQ(Theme::Dark, ThemeOf(Window().palette()));
     EXPECT_TRUE(Action("dark").isChecked());
     options_.theme = "light";
     OpenAgain();
-    EXPECT_FALSE(IsDark(Window().palette())) << "for one run";
+    EXPECT_EQ(Theme::Light, ThemeOf(Window().palette())) << "for one run";
     options_.theme.clear();
     OpenAgain();
-    EXPECT_TRUE(IsDark(Window().palette()));
+    EXPECT_EQ(Theme::Dark, ThemeOf(Window().palette()));
 }
 
 }  // namespace
