@@ -5,6 +5,16 @@
 
 namespace jogeon::indicators {
 
+namespace {
+
+constexpr int kFirstRankOfFigures = 2;  // the variants "the highest n" and "the lowest n" of family F
+
+}  // namespace
+
+bool RanksStocks(const DecodedBlock& condition) {
+    return condition.family == 'R' || (condition.family == 'F' && condition.mode >= kFirstRankOfFigures);
+}
+
 Column RanksOf(const Column& values, bool highestFirst) {
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < values.size(); ++i)

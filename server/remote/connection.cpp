@@ -47,6 +47,20 @@ Trouble TroubleOf(const grpc::Status& status, const std::string& address, millis
 
 }  // namespace
 
+RemoteService::Connection::Stubs RemoteService::Connection::Connect(const std::string& address) {
+    SilenceLibrary();
+    grpc::ChannelArguments arguments;
+    arguments.SetInt(GRPC_ARG_INITIAL_RECONNECT_BACKOFF_MS, kFirstRetry);
+    arguments.SetInt(GRPC_ARG_MAX_RECONNECT_BACKOFF_MS, kLongestRetry);
+    arguments.SetInt(GRPC_ARG_MIN_RECONNECT_BACKOFF_MS, kConnectTime);
+    arguments.SetInt(GRPC_ARG_ENABLE_HTTP_PROXY, 0);
+    arguments.SetInt(GRPC_ARG_USE_LOCAL_SUBCHANNEL_POOL, 1);
+    const std::shared_ptr<grpc::Channel> channel =
+        grpc::CreateCustomChannel("ipv4:" + address, grpc::InsecureChannelCredentials(), arguments);
+    return {ConditionService::NewStub(channel), PortfolioService::NewStub(channel),
+            ChartService::NewStub(channel)};
+}
+
 // Windows of two terminals may have one handle, and a user may have two terminals. Each terminal shifts its
 // own by a number of chance, so that the service keeps their results apart.
 RemoteService::Connection::Connection(std::string serverAddress, TroubleLog troubleLog,
@@ -56,19 +70,6 @@ RemoteService::Connection::Connection(std::string serverAddress, TroubleLog trou
       settings(remoteSettings),
       windowShift(std::random_device{}()),
       stubs_(Connect(address)) {}
-
-RemoteService::Connection::Stubs RemoteService::Connection::Connect(const std::string& address) {
-    SilenceLibrary();
-    grpc::ChannelArguments arguments;
-    arguments.SetInt(GRPC_ARG_INITIAL_RECONNECT_BACKOFF_MS, kFirstRetry);
-    arguments.SetInt(GRPC_ARG_MAX_RECONNECT_BACKOFF_MS, kLongestRetry);
-    arguments.SetInt(GRPC_ARG_MIN_RECONNECT_BACKOFF_MS, kConnectTime);
-    arguments.SetInt(GRPC_ARG_ENABLE_HTTP_PROXY, 0);
-    arguments.SetInt(GRPC_ARG_USE_LOCAL_SUBCHANNEL_POOL, 1);
-    const auto channel =
-        grpc::CreateCustomChannel("ipv4:" + address, grpc::InsecureChannelCredentials(), arguments);
-    return {ConditionService::NewStub(channel), PortfolioService::NewStub(channel)};
-}
 
 bool RemoteService::Connection::InTrouble() const {
     return Clock::now() < lastTrouble_.load() + kTroubleLasts;

@@ -8,6 +8,7 @@
 #include <set>
 #include <tuple>
 
+#include "server/remote/chart.grpc.pb.h"
 #include "server/remote/jogeon.grpc.pb.h"
 #include "server/remote/portfolio.grpc.pb.h"
 #include "server/remote/remote_service.h"
@@ -32,9 +33,14 @@ struct RemoteService::Connection {
 
     // The same, but throws the trouble as a RemoteError.
     template <typename Stub, typename Request, typename Reply>
-    void Demand(Method<Stub, Request, Reply> call, const Request& request, Reply& reply) {
-        const std::optional<Trouble> trouble = Call(call, request, reply, settings.callDeadline);
+    void Demand(Method<Stub, Request, Reply> call, const Request& request, Reply& reply,
+                std::chrono::milliseconds deadline) {
+        const std::optional<Trouble> trouble = Call(call, request, reply, deadline);
         if (trouble) throw RemoteError(trouble->line);
+    }
+    template <typename Stub, typename Request, typename Reply>
+    void Demand(Method<Stub, Request, Reply> call, const Request& request, Reply& reply) {
+        Demand(call, request, reply, settings.callDeadline);
     }
 
     // Whether a call failed a moment ago.
@@ -62,8 +68,9 @@ private:
         grpc::ClientContext& context_;
     };
 
-    using Stubs =
-        std::tuple<std::unique_ptr<ConditionService::Stub>, std::unique_ptr<PortfolioService::Stub>>;
+    // One for each service that the server offers.
+    using Stubs = std::tuple<std::unique_ptr<ConditionService::Stub>, std::unique_ptr<PortfolioService::Stub>,
+                             std::unique_ptr<ChartService::Stub>>;
     using Clock = std::chrono::steady_clock;
 
     template <typename Stub, typename Request, typename Reply>

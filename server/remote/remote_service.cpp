@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "server/remote/connection.h"
+#include "server/remote/remote_charts.h"
 #include "server/remote/remote_portfolios.h"
 
 namespace jogeon::remote {
@@ -11,7 +12,8 @@ using Stub = ConditionService::Stub;
 
 RemoteService::RemoteService(const std::string& address, TroubleLog log, RemoteSettings settings)
     : connection_(std::make_unique<Connection>(address, std::move(log), settings)),
-      portfolios_(std::make_unique<RemotePortfolios>(*connection_)) {}
+      portfolios_(std::make_unique<RemotePortfolios>(*connection_)),
+      charts_(std::make_unique<RemoteCharts>(*connection_)) {}
 
 RemoteService::~RemoteService() = default;
 
@@ -75,6 +77,10 @@ void RemoteService::GiveUpCalls() {
 
 service::Portfolios& RemoteService::GetPortfolios() {
     return *portfolios_;
+}
+
+service::Charts& RemoteService::GetCharts() {
+    return *charts_;
 }
 
 }  // namespace jogeon::remote

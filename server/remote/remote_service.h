@@ -62,6 +62,7 @@ public:
     // the hundred, and a server that hangs would hold up each of them.
     std::string StockName(const std::string& code) override;
     service::MarketSummary Market() override;
+    service::Charts& GetCharts() override;
 
     // Callable while calls are under way, which return soon. They fail without a word to the log.
     void GiveUpCalls() override;
@@ -74,6 +75,7 @@ public:
 private:
     const std::unique_ptr<Connection> connection_;
     const std::unique_ptr<service::Portfolios> portfolios_;
+    const std::unique_ptr<service::Charts> charts_;
 };
 
 }  // namespace jogeon::remote

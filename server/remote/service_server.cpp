@@ -4,6 +4,7 @@
 
 #include <grpcpp/server_builder.h>
 
+#include "server/remote/chart_calls.h"
 #include "server/remote/loopback_address.h"
 #include "server/remote/portfolio_calls.h"
 #include "server/remote/protocol.h"
@@ -21,10 +22,13 @@ constexpr int kPortIsOurs = 0;
 
 struct ServiceServer::State {
     State(service::Service& service, const service::FailureLog& log)
-        : calls(service, log), portfolioCalls(service.GetPortfolios(), log) {}
+        : calls(service, log),
+          portfolioCalls(service.GetPortfolios(), log),
+          chartCalls(service.GetCharts(), log) {}
 
     ServiceCalls calls;
     PortfolioCalls portfolioCalls;
+    ChartCalls chartCalls;
     int port = 0;
     std::unique_ptr<grpc::Server> server;
 };
@@ -37,6 +41,7 @@ ServiceServer::ServiceServer(service::Service& service, int port, const service:
     builder.AddListeningPort(LoopbackAddress(port), grpc::InsecureServerCredentials(), &state_->port);
     builder.RegisterService(&state_->calls);
     builder.RegisterService(&state_->portfolioCalls);
+    builder.RegisterService(&state_->chartCalls);
     state_->server = builder.BuildAndStart();
     if (!state_->server || state_->port == 0)
         throw ListenError("can't listen on " + LoopbackAddress(port) +

@@ -12,6 +12,7 @@ LocalService::LocalService(std::shared_ptr<const market::Market> market, std::un
               market->LastDate()},
       store_(std::move(store)),
       portfolios_(market, store_ ? store_->File() : store::PortfolioStore::kInMemory),
+      charts_(market),
       search_(std::move(market), std::move(log), portfolios_.Store()) {}
 
 std::string LocalService::Handle(const Request& request) {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "server/service/local_charts.h"
 #include "server/service/local_portfolios.h"
 #include "server/service/search_service.h"
 #include "server/service/service.h"
@@ -26,11 +27,13 @@ public:
     std::string StockName(const std::string& code) override;
     MarketSummary Market() override;
     Portfolios& GetPortfolios() override { return portfolios_; }
+    Charts& GetCharts() override { return charts_; }
 
 private:
     const MarketSummary market_;
     const std::unique_ptr<StoreService> store_;
     LocalPortfolios portfolios_;
+    LocalCharts charts_;
     SearchService search_;
 };
 

@@ -55,6 +55,15 @@ std::vector<DecodedBlock> ReadBlocks(PayloadReader& reader, int count) {
     return blocks;
 }
 
+engine::SearchOrder ReadOrder(PayloadReader& reader) {
+    engine::SearchOrder order;
+    ConditionHeader header = ReadHeader(reader.Take(kConditionHeaderSize));
+    order.target = std::move(header.target);
+    order.expression = std::move(header.exp);
+    order.conditions = ReadBlocks(reader, header.count);
+    return order;
+}
+
 std::vector<std::string> ReadFids(PayloadReader& reader) {
     const int count = reader.TakeNumber(layout::kCountWidth);
     const std::string_view list = reader.TakeList(count, layout::kFidWidth);
@@ -81,12 +90,9 @@ std::vector<std::string> ReadPriorCodes(PayloadReader& reader) {
 SearchRequest ReadSearchRequest(std::string_view payload) {
     PayloadReader reader(payload);
     reader.Take(layout::kLetter.width + layout::kWindow.width);
-    SearchRequest request;
-    request.order.scope = ReadScope(reader.Take(layout::kScope.width));
-    ConditionHeader header = ReadHeader(reader.Take(layout::kHeader.width));
-    request.order.target = std::move(header.target);
-    request.order.expression = std::move(header.exp);
-    request.order.conditions = ReadBlocks(reader, header.count);
+    const Scope scope = ReadScope(reader.Take(layout::kScope.width));
+    SearchRequest request{ReadOrder(reader), {}};
+    request.order.scope = scope;
     request.fids = ReadFids(reader);
     if (request.order.scope != Scope::Whole) request.order.priorCodes = ReadPriorCodes(reader);
     reader.End();
@@ -102,6 +108,13 @@ PageRequest ReadPageRequest(std::string_view payload) {
     request.received = reader.TakeNumber(page::kReceived.width);
     reader.End();
     return request;
+}
+
+engine::SearchOrder ReadConditions(std::string_view record) {
+    PayloadReader reader(record);
+    engine::SearchOrder order = ReadOrder(reader);
+    reader.End();
+    return order;
 }
 
 }  // namespace jogeon::service

@@ -22,8 +22,12 @@ struct PageRequest {
     int received = 0;  // rows that the asker has
 };
 
-// Both throw BadRequest.
+// All three throw BadRequest.
 SearchRequest ReadSearchRequest(std::string_view payload);
 PageRequest ReadPageRequest(std::string_view payload);
+
+// The conditions of a search without the request around them: a header and the blocks that it counts, no
+// more.
+engine::SearchOrder ReadConditions(std::string_view record);
 
 }  // namespace jogeon::service

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "server/service/charts.h"
 #include "server/service/portfolios.h"
 #include "server/service/request.h"
 
@@ -47,6 +48,9 @@ public:
 
     // The users' interest groups and holdings. Lives as long as the service.
     virtual Portfolios& GetPortfolios() = 0;
+
+    // The bars of stocks. Lives as long as the service.
+    virtual Charts& GetCharts() = 0;
 
     // The asker goes away: calls under way end soon where they can, and calls to come may fail.
     virtual void GiveUpCalls() {}

@@ -1,6 +1,7 @@
 // Which screens the terminal has. A new one is a line here.
 #include <QCoreApplication>
 
+#include "terminal/chart/chart_screen.h"
 #include "terminal/interest/interest_screen.h"
 #include "terminal/screens/screen_kind.h"
 
@@ -8,6 +9,7 @@ namespace jogeon::terminal {
 
 std::vector<ScreenKind> OwnScreens() {
     return {
+        {"0615", QT_TRANSLATE_NOOP("jogeon::terminal::ScreenKind", "차트"), MakeScreen<ChartScreen>},
         {"0130", QT_TRANSLATE_NOOP("jogeon::terminal::ScreenKind", "관심그룹"), MakeScreen<InterestScreen>},
     };
 }

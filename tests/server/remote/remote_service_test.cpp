@@ -123,6 +123,26 @@ TEST_F(RemoteServiceTest, PortfoliosAreTheServicesOwnAndStocksAreAskedForOnce) {
     EXPECT_THROW(there.SetStocks("kim01", "504", {}), RemoteError);
 }
 
+TEST_F(RemoteServiceTest, ChartsAreThoseOfTheServiceAndAFaultReachesTheAskerAsItsLine) {
+    const auto remote = Connect();
+    service::Charts& there = remote->GetCharts();
+    service::Charts& here = local.GetCharts();
+    for (const auto timeframe : {market::Timeframe::Day, market::Timeframe::Month}) {
+        EXPECT_EQ(there.Bars("100040", timeframe), here.Bars("100040", timeframe));
+        EXPECT_EQ(there.Bars("999999", timeframe), std::nullopt);
+    }
+    ASSERT_EQ(there.Bars("100040", market::Timeframe::Day)->bars.size(), 2u);
+    const std::string set = Header("A", "01") + PriceBlock('A', "6990", "6990");
+    EXPECT_THAT(there.TrueDays("kim01", set, "100040"), ElementsAre(20260305));
+    try {
+        there.TrueDays("kim01", set.substr(1), "100040");
+        ADD_FAILURE() << "a set that is cut";
+    } catch (const RemoteError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("the server at " + address + " failed: \"001A\" is no number"));
+    }
+    EXPECT_THAT(lines, ElementsAre()) << "thrown, not logged";
+}
+
 TEST_F(RemoteServiceTest, WindowsOfTwoTerminalsWithOneHandleKeepTheirResults) {
     const auto one = Connect();
     const auto other = Connect();
