@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "screen/host/message_boxes_qt.h"
+#include "screen/text/cp949.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
 #include "server/remote/remote_service.h"
@@ -97,6 +98,7 @@ Terminal::Terminal(const Options& options, std::vector<ScreenKind> screens, host
       workplace_{options.user.toStdString(), *service_, links_, questions_, workers_},
       settings_(links_, questions_),
       interests_(workplace_, [this](const std::string& group, bool show) { OnInterestSaved(group, show); }),
+      sheets_(questions_, [this] { return OriginOfSheets(); }),
       desk_(std::make_unique<ScreenDesk>(window_, workplace_, state_, std::move(screens))),
       menu_(window_, desk_->Known(), [this] { return desk_->OpenOnes(); }),
       watch_(workplace_, clock_, window_.Foot()) {
@@ -122,7 +124,13 @@ Terminal::~Terminal() {
 
 void Terminal::InstallServices() {
     host::Install({&communication_, &links_, &codeLists_, &colors_, &questions_, &clock_, &settings_,
-                   &interests_, nullptr});
+                   &interests_, &sheets_});
+}
+
+SheetOrigin Terminal::OriginOfSheets() {
+    const service::MarketSummary& market = window_.Foot().Market();
+    return {ToCp949(MarketLine(market).toStdString()), ToCp949(MarketDate(market).toStdString()),
+            workplace_.user};
 }
 
 void Terminal::OnInterestSaved(const std::string& group, bool show) {

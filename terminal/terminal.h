@@ -22,6 +22,7 @@
 #include "terminal/screens/screen_desk.h"
 #include "terminal/service_watch.h"
 #include "terminal/settings/settings_dialog_host.h"
+#include "terminal/sheet/xlsx_export.h"
 #include "terminal/theme/theme_switch.h"
 #include "terminal/user_state.h"
 #include "terminal/window/main_menu.h"
@@ -50,6 +51,7 @@ private:
     void WireMenu();
     void WireState();
     void RestoreWindow();
+    SheetOrigin OriginOfSheets();
     void OnInterestSaved(const std::string& group, bool show);
 
     const HomeFolder home_;
@@ -71,6 +73,7 @@ private:
     const Workplace workplace_;
     SettingsDialogHost settings_;
     InterestSave interests_;
+    XlsxExport sheets_;
     std::unique_ptr<ScreenDesk> desk_;
     MainMenu menu_;
     ServiceWatch watch_;

@@ -77,6 +77,7 @@ std::optional<std::filesystem::path> MessageBoxes::AskSavePath(const FileQuestio
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilter(QString::fromStdString(ToUtf8(question.filterName)));
     dialog.setDefaultSuffix(QString::fromStdString(ToUtf8(question.extension)));
+    dialog.selectFile(QString::fromStdString(ToUtf8(question.name)));
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return std::filesystem::path(dialog.selectedFiles().front().toStdU16String());
 }

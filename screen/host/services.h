@@ -97,6 +97,7 @@ struct Box {
 struct FileQuestion {
     std::string filterName;  // "Excel Worksheet Files (*.xls)"
     std::string extension;   // "xls", put behind a name that has none
+    std::string name = {};   // the one proposed, without its extension; may be empty
 };
 
 // Everything modal that the user is shown, so that a test can answer in his place.

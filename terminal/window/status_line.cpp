@@ -60,6 +60,7 @@ StatusLine::StatusLine(const QString& user, const QString& server, QWidget* pare
 }
 
 void StatusLine::ShowMarket(const service::MarketSummary& market) {
+    summary_ = market;
     market_->setText(MarketLine(market));
     market_->setToolTip(market_->text());
     date_->setText(MarketDate(market));

@@ -18,6 +18,7 @@ public:
     StatusLine(const QString& user, const QString& server, QWidget* parent = nullptr);
 
     void ShowMarket(const service::MarketSummary& market);
+    const service::MarketSummary& Market() const { return summary_; }  // as it was shown last
     void ShowConnected(bool connected);
 
     // A line over the market for a while.
@@ -27,6 +28,7 @@ private:
     QLabel* AddLabel(const QString& name);
 
     const QString server_;
+    service::MarketSummary summary_;
     QLabel* const market_;
     QLabel* const date_;
     QLabel* const user_;
