@@ -60,6 +60,7 @@ constexpr Entry kTable[] = {
     {Color::FBHeaderBack, 0xd2d2d2, 0x3a342f},
     {Color::FBLine, 0x828282, 0x5a524a},
     {Color::HostGridLine, 0xd8d2cd, 0x453e38},
+    {Color::WatchNew, 0xc4f3ff, 0x1f4450},
     {Color::ChartBack, 0xffffff, 0x1c1916},
     {Color::ChartGrid, 0xeeeae6, 0x352f2a},
     {Color::ChartText, 0x5e544b, 0xbdb3aa},

@@ -10,20 +10,25 @@ namespace jogeon::indicators {
 namespace {
 
 // The difference of two exponential averages, and the exponential average of that difference.
-Lines ConvergenceAndSignal(const Bars& bars, std::size_t instruments, int bar, std::array<int, 3> periods) {
-    Smoother fast = Smoother::Exponential(instruments, periods[0]);
-    Smoother slow = Smoother::Exponential(instruments, periods[1]);
-    Smoother signal = Smoother::Exponential(instruments, periods[2]);
-    Column difference;
-    const auto step = [&](int b) {
-        const std::span<const double> close = bars.Row(PriceField::Close, b);
+struct ConvergenceWalk {
+    ConvergenceWalk(std::size_t instruments, std::array<int, 3> periods)
+        : fast(Smoother::Exponential(instruments, periods[0])),
+          slow(Smoother::Exponential(instruments, periods[1])),
+          signal(Smoother::Exponential(instruments, periods[2])) {}
+
+    void Step(const Bars& bars, int bar) {
+        const std::span<const double> close = bars.Row(PriceField::Close, bar);
         fast.Add(close);
         slow.Add(close);
         difference = Combine(fast.Averages(), slow.Averages(), std::minus<>());
         signal.Add(difference);
-    };
-    return WalkTo<2>(bar, instruments, step, [&] { return std::array{difference, signal.Averages()}; });
-}
+    }
+
+    std::array<Column, 2> Columns() const { return {difference, signal.Averages()}; }
+
+    Smoother fast, slow, signal;
+    Column difference;
+};
 
 Verdict EvaluateMacd(MarketDay& day, const DecodedBlock& condition) {
     const Parameters parameters(condition);
@@ -32,11 +37,9 @@ Verdict EvaluateMacd(MarketDay& day, const DecodedBlock& condition) {
     const std::array<int, 3> periods = {parameters.Whole(40), parameters.Whole(41),
                                         withSignal ? parameters.Whole(42) : 1};
     parameters.Require(periods[0] < periods[1], "단기 기간이 장기 기간보다 짧아야 합니다");
+    const LinesKey key{"macd", {periods[0], periods[1], periods[2]}, place.timeframe, place.bar};
     const auto lines =
-        day.Get({"macd", {periods[0], periods[1], periods[2]}, place.timeframe, place.bar}, [&] {
-            return ConvergenceAndSignal(day.GetMarket().BarsOf(place.timeframe), day.Instruments(), place.bar,
-                                        periods);
-        });
+        day.Get(key, [&] { return WalkTo(day, key, ConvergenceWalk(day.Instruments(), periods)); });
     const Direction direction = parameters.Variant() % 2 == 0 ? Direction::Up : Direction::Down;
     return withSignal ? JudgeCrossing((*lines)[0], (*lines)[1], direction)
                       : JudgeCrossing((*lines)[0], 0, direction);

@@ -95,8 +95,8 @@ private:
     std::size_t computations_ = 0;
 };
 
-MarketDay::MarketDay(std::shared_ptr<const market::Market> market, std::size_t memory)
-    : market_(std::move(market)), memory_(std::make_unique<Memory>(memory)) {}
+MarketDay::MarketDay(std::shared_ptr<const market::Market> market, std::size_t memory, Groundwork* groundwork)
+    : market_(std::move(market)), memory_(std::make_unique<Memory>(memory)), groundwork_(groundwork) {}
 
 MarketDay::~MarketDay() = default;
 

@@ -8,7 +8,9 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <string_view>
 #include <tuple>
 #include <vector>
@@ -45,12 +47,32 @@ struct LinesKey {
     }
 };
 
+// What recursive formulas have carried along up to the bar before the one they evaluate. Days over one market
+// of which only the last bars change share it, so that no walk over the earlier bars is made twice. It grows
+// with the conditions that are evaluated, and may be used from several threads.
+class Groundwork {
+public:
+    std::shared_ptr<const void> Get(const LinesKey& key,
+                                    const std::function<std::shared_ptr<const void>()>& compute) {
+        const std::lock_guard lock(mutex_);
+        std::shared_ptr<const void>& laid = laid_[key];
+        if (!laid) laid = compute();
+        return laid;
+    }
+
+private:
+    std::mutex mutex_;
+    std::map<LinesKey, std::shared_ptr<const void>> laid_;
+};
+
 class MarketDay {
 public:
     static constexpr std::size_t kDefaultMemory = std::size_t{256} << 20;
 
-    // `memory`: how many bytes of lines are kept for later askers.
-    explicit MarketDay(std::shared_ptr<const market::Market> market, std::size_t memory = kDefaultMemory);
+    // `memory`: how many bytes of lines are kept for later askers. `groundwork` outlives the day; null for a
+    // day that lays its own and keeps none.
+    explicit MarketDay(std::shared_ptr<const market::Market> market, std::size_t memory = kDefaultMemory,
+                       Groundwork* groundwork = nullptr);
     ~MarketDay();
     MarketDay(const MarketDay&) = delete;
     MarketDay& operator=(const MarketDay&) = delete;
@@ -65,6 +87,15 @@ public:
     // never its own. An exception of `compute` reaches everyone who waits for it, and is not remembered.
     std::shared_ptr<const Lines> Get(const LinesKey& key, const std::function<Lines()>& compute);
 
+    // What `compute` makes of the bars before the key's, from the groundwork where it has been laid. All
+    // callers with one series compute the same type.
+    template <typename Laid>
+    std::shared_ptr<const Laid> GetGroundwork(const LinesKey& key,
+                                              const std::function<std::shared_ptr<const Laid>()>& compute) {
+        if (!groundwork_) return compute();
+        return std::static_pointer_cast<const Laid>(groundwork_->Get(key, compute));
+    }
+
     // How often `Get` had to compute, since the day was made.
     std::size_t Computations() const;
 
@@ -73,6 +104,7 @@ private:
 
     std::shared_ptr<const market::Market> market_;
     std::unique_ptr<Memory> memory_;
+    Groundwork* groundwork_;
 };
 
 }  // namespace jogeon::indicators

@@ -4,6 +4,17 @@
 
 namespace jogeon::indicators {
 
+namespace {
+
+struct AverageWalk {
+    void Step(const Bars& bars, int bar) { smoother.Add(bars.Row(PriceField::Close, bar)); }
+    std::array<Column, 1> Columns() const { return {smoother.Averages()}; }
+
+    Smoother smoother;
+};
+
+}  // namespace
+
 AverageKind AverageKindOf(const Parameters& parameters) {
     return static_cast<AverageKind>(parameters.Choice(50, "01"));
 }
@@ -18,15 +29,11 @@ std::shared_ptr<const Line> MovingAverage(MarketDay& day, const Place& place, in
                                     })};
                                 }),
                         0);
-    return PickLine(day.Get({"exponential average", {n}, place.timeframe, place.bar},
-                            [&] {
-                                Smoother smoother = Smoother::Exponential(day.Instruments(), n);
-                                return WalkTo<1>(
-                                    place.bar, day.Instruments(),
-                                    [&](int bar) { smoother.Add(bars.Row(PriceField::Close, bar)); },
-                                    [&] { return std::array{smoother.Averages()}; });
-                            }),
-                    0);
+    const LinesKey key{"exponential average", {n}, place.timeframe, place.bar};
+    return PickLine(
+        day.Get(key,
+                [&] { return WalkTo(day, key, AverageWalk{Smoother::Exponential(day.Instruments(), n)}); }),
+        0);
 }
 
 Line CloseLine(const MarketDay& day, const Place& place) {

@@ -13,14 +13,14 @@ namespace jogeon::indicators {
 namespace {
 
 // 100 * gain / (gain + loss) of the smoothed gains and losses from close to close.
-Lines RelativeStrength(const Bars& bars, std::size_t instruments, int bar, int n) {
-    Smoother gains = Smoother::Wilder(instruments, n);
-    Smoother losses = Smoother::Wilder(instruments, n);
-    Column gain(instruments), loss(instruments);
-    const auto step = [&](int b) {
-        if (b == 0) return;  // a change needs two closes
-        const std::span<const double> close = bars.Row(PriceField::Close, b);
-        const std::span<const double> previous = bars.Row(PriceField::Close, b - 1);
+struct StrengthWalk {
+    StrengthWalk(std::size_t instruments, int n)
+        : gains(Smoother::Wilder(instruments, n)), losses(gains), gain(instruments), loss(instruments) {}
+
+    void Step(const Bars& bars, int bar) {
+        if (bar == 0) return;  // a change needs two closes
+        const std::span<const double> close = bars.Row(PriceField::Close, bar);
+        const std::span<const double> previous = bars.Row(PriceField::Close, bar - 1);
         for (std::size_t i = 0; i < close.size(); ++i) {
             const double change = close[i] - previous[i];
             const double fall = -change;
@@ -29,21 +29,24 @@ Lines RelativeStrength(const Bars& bars, std::size_t instruments, int bar, int n
         }
         gains.Add(gain);
         losses.Add(loss);
-    };
-    return WalkTo<1>(bar, instruments, step, [&] {
-        return std::array{Combine(gains.Averages(), losses.Averages(),
-                                  [](double up, double down) { return Ratio(100 * up, up + down); })};
-    });
-}
+    }
+
+    std::array<Column, 1> Columns() const {
+        return {Combine(gains.Averages(), losses.Averages(),
+                        [](double up, double down) { return Ratio(100 * up, up + down); })};
+    }
+
+    Smoother gains, losses;
+    Column gain, loss;
+};
 
 // 010201
 Verdict EvaluateRsi(MarketDay& day, const DecodedBlock& condition) {
     const Parameters parameters(condition);
     const Place place = PlaceOf(day, parameters);
     const int n = parameters.Whole(40);
-    const auto lines = day.Get({"rsi", {n}, place.timeframe, place.bar}, [&] {
-        return RelativeStrength(day.GetMarket().BarsOf(place.timeframe), day.Instruments(), place.bar, n);
-    });
+    const LinesKey key{"rsi", {n}, place.timeframe, place.bar};
+    const auto lines = day.Get(key, [&] { return WalkTo(day, key, StrengthWalk(day.Instruments(), n)); });
     return JudgeLevel(lines->front(), parameters);
 }
 

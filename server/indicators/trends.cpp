@@ -72,13 +72,17 @@ struct Movement {
 };
 
 // +DI, -DI and ADX.
-Lines DirectionalMovement(const Bars& bars, std::size_t instruments, int bar, int n) {
-    Smoother plus = Smoother::Wilder(instruments, n), minus = plus, range = plus, average = plus;
-    Movement movement(instruments);
-    Column plusIndex, minusIndex;
-    const auto percent = [](double part, double whole) { return Ratio(100 * part, whole); };
-    const auto step = [&](int b) {
-        movement.Set(bars, b);
+struct DirectionalWalk {
+    DirectionalWalk(std::size_t instruments, int n)
+        : plus(Smoother::Wilder(instruments, n)),
+          minus(plus),
+          range(plus),
+          average(plus),
+          movement(instruments) {}
+
+    void Step(const Bars& bars, int bar) {
+        const auto percent = [](double part, double whole) { return Ratio(100 * part, whole); };
+        movement.Set(bars, bar);
         plus.Add(movement.plus);
         minus.Add(movement.minus);
         range.Add(movement.range);
@@ -88,16 +92,18 @@ Lines DirectionalMovement(const Bars& bars, std::size_t instruments, int bar, in
         average.Add(Combine(plusIndex, minusIndex, [](double up, double down) {
             return Ratio(100 * std::abs(up - down), up + down);
         }));
-    };
-    return WalkTo<3>(bar, instruments, step, [&] {
-        return std::array{plusIndex, minusIndex, average.Averages()};
-    });
-}
+    }
+
+    std::array<Column, 3> Columns() const { return {plusIndex, minusIndex, average.Averages()}; }
+
+    Smoother plus, minus, range, average;
+    Movement movement;
+    Column plusIndex, minusIndex;
+};
 
 std::shared_ptr<const Lines> DirectionalLines(MarketDay& day, const Place& place, int n) {
-    return day.Get({"directional movement", {n}, place.timeframe, place.bar}, [&] {
-        return DirectionalMovement(day.GetMarket().BarsOf(place.timeframe), day.Instruments(), place.bar, n);
-    });
+    const LinesKey key{"directional movement", {n}, place.timeframe, place.bar};
+    return day.Get(key, [&] { return WalkTo(day, key, DirectionalWalk(day.Instruments(), n)); });
 }
 
 // 010302

@@ -54,31 +54,35 @@ void AddBalance(const Bars& bars, int bar, Column& balance) {
 }
 
 // On-balance volume and its mean over n bars.
-Lines BalanceAndMean(const Bars& bars, std::size_t instruments, int bar, int n) {
-    const std::size_t period = static_cast<std::size_t>(n);
-    std::deque<Column> balances;  // the last n
-    Column balance(instruments, kMissing);
-    const auto step = [&](int b) {
-        AddBalance(bars, b, balance);
+struct BalanceWalk {
+    BalanceWalk(std::size_t instruments, int n)
+        : period(static_cast<std::size_t>(n)), balance(instruments, kMissing) {}
+
+    void Step(const Bars& bars, int bar) {
+        AddBalance(bars, bar, balance);
         balances.push_back(balance);
         if (balances.size() > period) balances.pop_front();
-    };
-    return WalkTo<2>(bar, instruments, step, [&] {
-        Column mean(instruments, balances.size() == period ? 0 : kMissing);
+    }
+
+    std::array<Column, 2> Columns() const {
+        Column mean(balance.size(), balances.size() == period ? 0 : kMissing);
         for (const Column& one : balances) mean = Combine(mean, one, std::plus<>());
-        for (double& value : mean) value /= n;
-        return std::array{balance, mean};
-    });
-}
+        for (double& value : mean) value /= static_cast<double>(period);
+        return {balance, mean};
+    }
+
+    std::size_t period;
+    Column balance;
+    std::deque<Column> balances;  // the last n
+};
 
 // 010402
 Verdict EvaluateOnBalance(MarketDay& day, const DecodedBlock& condition) {
     const Parameters parameters(condition);
     const Place place = PlaceOf(day, parameters);
     const int n = parameters.Whole(40);
-    const auto lines = day.Get({"on-balance volume", {n}, place.timeframe, place.bar}, [&] {
-        return BalanceAndMean(day.GetMarket().BarsOf(place.timeframe), day.Instruments(), place.bar, n);
-    });
+    const LinesKey key{"on-balance volume", {n}, place.timeframe, place.bar};
+    const auto lines = day.Get(key, [&] { return WalkTo(day, key, BalanceWalk(day.Instruments(), n)); });
     return JudgeCrossing((*lines)[0], (*lines)[1],
                          parameters.Variant() == 0 ? Direction::Up : Direction::Down);
 }

@@ -51,18 +51,27 @@ inline double PercentChange(double now, double then) {
     return Ratio(100 * (now - then), then);
 }
 
-// Calls step(b) for the bars 0 to `bar`, and columns() after each of the last two: it returns an array with
-// the columns of `Count` lines as they stand then.
-template <std::size_t Count, typename Step, typename Columns>
-Lines WalkTo(int bar, std::size_t instruments, Step step, Columns columns) {
-    Lines lines(Count, Line{Column(instruments, kMissing), Column(instruments, kMissing)});
-    for (int b = 0; b <= bar; ++b) {
-        step(b);
-        if (b < bar - 1) continue;
-        std::array<Column, Count> reached = columns();
-        for (std::size_t i = 0; i < Count; ++i)
-            (b == bar ? lines[i].now : lines[i].before) = std::move(reached[i]);
-    }
+// The lines of a formula that carries something from bar to bar: at the key's bar and the one before. A walk
+// has Step(bars, bar), called for the bars from 0 on, and Columns(), an array of what its lines are then.
+template <typename Walk>
+Lines WalkTo(MarketDay& day, const LinesKey& key, const Walk& start) {
+    const Bars& bars = day.GetMarket().BarsOf(key.timeframe);
+    const auto before = day.GetGroundwork<Walk>(key, [&] {
+        auto walk = std::make_shared<Walk>(start);
+        for (int bar = 0; bar < key.bar; ++bar) walk->Step(bars, bar);
+        return walk;
+    });
+    Walk walk = *before;
+    const Column unknown(day.Instruments(), kMissing);
+    Lines lines(std::tuple_size_v<decltype(walk.Columns())>, Line{unknown, unknown});
+    const auto put = [&](Column Line::*side) {
+        auto columns = walk.Columns();
+        for (std::size_t i = 0; i < columns.size(); ++i) lines[i].*side = std::move(columns[i]);
+    };
+    if (key.bar > 0) put(&Line::before);
+    if (key.bar < 0) return lines;
+    walk.Step(bars, key.bar);
+    put(&Line::now);
     return lines;
 }
 

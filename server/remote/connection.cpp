@@ -58,7 +58,7 @@ RemoteService::Connection::Stubs RemoteService::Connection::Connect(const std::s
     const std::shared_ptr<grpc::Channel> channel =
         grpc::CreateCustomChannel("ipv4:" + address, grpc::InsecureChannelCredentials(), arguments);
     return {ConditionService::NewStub(channel), PortfolioService::NewStub(channel),
-            ChartService::NewStub(channel)};
+            ChartService::NewStub(channel), WatchService::NewStub(channel)};
 }
 
 // Windows of two terminals may have one handle, and a user may have two terminals. Each terminal shifts its

@@ -12,6 +12,7 @@
 #include "server/remote/jogeon.grpc.pb.h"
 #include "server/remote/portfolio.grpc.pb.h"
 #include "server/remote/remote_service.h"
+#include "server/remote/watch.grpc.pb.h"
 
 namespace jogeon::remote {
 
@@ -70,7 +71,7 @@ private:
 
     // One for each service that the server offers.
     using Stubs = std::tuple<std::unique_ptr<ConditionService::Stub>, std::unique_ptr<PortfolioService::Stub>,
-                             std::unique_ptr<ChartService::Stub>>;
+                             std::unique_ptr<ChartService::Stub>, std::unique_ptr<WatchService::Stub>>;
     using Clock = std::chrono::steady_clock;
 
     template <typename Stub, typename Request, typename Reply>

@@ -5,6 +5,7 @@
 #include "server/remote/connection.h"
 #include "server/remote/remote_charts.h"
 #include "server/remote/remote_portfolios.h"
+#include "server/remote/remote_watches.h"
 
 namespace jogeon::remote {
 
@@ -13,7 +14,8 @@ using Stub = ConditionService::Stub;
 RemoteService::RemoteService(const std::string& address, TroubleLog log, RemoteSettings settings)
     : connection_(std::make_unique<Connection>(address, std::move(log), settings)),
       portfolios_(std::make_unique<RemotePortfolios>(*connection_)),
-      charts_(std::make_unique<RemoteCharts>(*connection_)) {}
+      charts_(std::make_unique<RemoteCharts>(*connection_)),
+      watches_(std::make_unique<RemoteWatches>(*connection_)) {}
 
 RemoteService::~RemoteService() = default;
 
@@ -81,6 +83,10 @@ service::Portfolios& RemoteService::GetPortfolios() {
 
 service::Charts& RemoteService::GetCharts() {
     return *charts_;
+}
+
+service::Watches& RemoteService::GetWatches() {
+    return *watches_;
 }
 
 }  // namespace jogeon::remote

@@ -62,13 +62,14 @@ public:
     // the hundred, and a server that hangs would hold up each of them.
     std::string StockName(const std::string& code) override;
     service::MarketSummary Market() override;
-    service::Charts& GetCharts() override;
 
     // Callable while calls are under way, which return soon. They fail without a word to the log.
     void GiveUpCalls() override;
 
     // Each of its calls throws RemoteError when it failed.
     service::Portfolios& GetPortfolios() override;
+    service::Charts& GetCharts() override;
+    service::Watches& GetWatches() override;
 
     struct Connection;
 
@@ -76,6 +77,7 @@ private:
     const std::unique_ptr<Connection> connection_;
     const std::unique_ptr<service::Portfolios> portfolios_;
     const std::unique_ptr<service::Charts> charts_;
+    const std::unique_ptr<service::Watches> watches_;
 };
 
 }  // namespace jogeon::remote

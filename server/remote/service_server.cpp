@@ -9,6 +9,7 @@
 #include "server/remote/portfolio_calls.h"
 #include "server/remote/protocol.h"
 #include "server/remote/service_calls.h"
+#include "server/remote/watch_calls.h"
 
 namespace jogeon::remote {
 namespace {
@@ -24,11 +25,13 @@ struct ServiceServer::State {
     State(service::Service& service, const service::FailureLog& log)
         : calls(service, log),
           portfolioCalls(service.GetPortfolios(), log),
-          chartCalls(service.GetCharts(), log) {}
+          chartCalls(service.GetCharts(), log),
+          watchCalls(service.GetWatches(), log) {}
 
     ServiceCalls calls;
     PortfolioCalls portfolioCalls;
     ChartCalls chartCalls;
+    WatchCalls watchCalls;
     int port = 0;
     std::unique_ptr<grpc::Server> server;
 };
@@ -42,6 +45,7 @@ ServiceServer::ServiceServer(service::Service& service, int port, const service:
     builder.RegisterService(&state_->calls);
     builder.RegisterService(&state_->portfolioCalls);
     builder.RegisterService(&state_->chartCalls);
+    builder.RegisterService(&state_->watchCalls);
     state_->server = builder.BuildAndStart();
     if (!state_->server || state_->port == 0)
         throw ListenError("can't listen on " + LoopbackAddress(port) +

@@ -13,7 +13,9 @@ LocalService::LocalService(std::shared_ptr<const market::Market> market, std::un
       store_(std::move(store)),
       portfolios_(market, store_ ? store_->File() : store::PortfolioStore::kInMemory),
       charts_(market),
-      search_(std::move(market), std::move(log), portfolios_.Store()) {}
+      search_(market, std::move(log), portfolios_.Store()),
+      watches_(std::move(market), search_.Groups(),
+               [this](const std::string& user) { return search_.GroupsOf(user); }) {}
 
 std::string LocalService::Handle(const Request& request) {
     if (request.transaction != kStoreTransaction) return search_.Handle(request);

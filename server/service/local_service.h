@@ -6,6 +6,7 @@
 
 #include "server/service/local_charts.h"
 #include "server/service/local_portfolios.h"
+#include "server/service/local_watches.h"
 #include "server/service/search_service.h"
 #include "server/service/service.h"
 #include "server/service/store_service.h"
@@ -28,6 +29,7 @@ public:
     MarketSummary Market() override;
     Portfolios& GetPortfolios() override { return portfolios_; }
     Charts& GetCharts() override { return charts_; }
+    Watches& GetWatches() override { return watches_; }
 
 private:
     const MarketSummary market_;
@@ -35,6 +37,7 @@ private:
     LocalPortfolios portfolios_;
     LocalCharts charts_;
     SearchService search_;
+    LocalWatches watches_;
 };
 
 }  // namespace jogeon::service

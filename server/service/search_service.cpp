@@ -128,6 +128,14 @@ std::vector<std::string> SearchService::Accounts(const std::string& user) {
     return numbers;
 }
 
+const engine::MarketGroups& SearchService::Groups() const {
+    return state_->groups;
+}
+
+std::shared_ptr<const engine::UserGroups> SearchService::GroupsOf(const std::string& user) {
+    return state_->users.Of(user);
+}
+
 std::string SearchService::StockName(const std::string& code) const {
     const int stock = state_->market->Find(code);
     return stock < 0 ? std::string()

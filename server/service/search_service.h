@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "server/engine/market_groups.h"
+#include "server/engine/user_groups.h"
 #include "server/market/market.h"
 #include "server/service/request.h"
 #include "server/store/portfolio_store.h"
@@ -37,6 +39,12 @@ public:
     // The numbers of the user's accounts, eleven digits each. Throws MarketError when the market's file turns
     // out damaged, StoreError when the store fails.
     std::vector<std::string> Accounts(const std::string& user);
+
+    // The groups that every user sees; they live as long as this.
+    const engine::MarketGroups& Groups() const;
+
+    // The user's own, as they are now. Throws MarketError when the market's file turns out damaged.
+    std::shared_ptr<const engine::UserGroups> GroupsOf(const std::string& user);
 
     // The name, in CP949, of the stock with this six-byte code; empty if it is unknown.
     std::string StockName(const std::string& code) const;

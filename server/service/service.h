@@ -10,6 +10,7 @@
 #include "server/service/charts.h"
 #include "server/service/portfolios.h"
 #include "server/service/request.h"
+#include "server/service/watches.h"
 
 namespace jogeon::service {
 
@@ -46,11 +47,11 @@ public:
     // Throws std::runtime_error when the service can't tell.
     virtual MarketSummary Market() = 0;
 
-    // The users' interest groups and holdings. Lives as long as the service.
+    // What lives as long as the service and is asked for apart: the users' interest groups and holdings, the
+    // bars of stocks, the sets that are watched.
     virtual Portfolios& GetPortfolios() = 0;
-
-    // The bars of stocks. Lives as long as the service.
     virtual Charts& GetCharts() = 0;
+    virtual Watches& GetWatches() = 0;
 
     // The asker goes away: calls under way end soon where they can, and calls to come may fail.
     virtual void GiveUpCalls() {}

@@ -4,10 +4,11 @@
 // it through InBackground, whose answer comes back to the screen's thread.
 #pragma once
 
-#include <QFuture>
+#include <QFutureWatcher>
 #include <QThreadPool>
 #include <QtConcurrent/QtConcurrentRun>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "screen/host/services.h"
@@ -24,12 +25,23 @@ struct Workplace {
     QThreadPool& workers;
 };
 
-// Runs `work` on a thread of the workplace and gives the result to `done` on the thread of `receiver`, if
-// that lives by then. `work` must touch nothing of the screen; what it throws is lost, so that it catches
-// what it can meet.
+// Runs `work` on a thread of the workplace and gives the result to `done` on the thread of `receiver`, where
+// this is called, if that lives by then. `work` must touch nothing of the screen; what it throws is lost, so
+// that it catches what it can meet.
 template <typename Work, typename Done>
 void InBackground(const Workplace& workplace, QObject& receiver, Work work, Done done) {
-    QtConcurrent::run(&workplace.workers, std::move(work)).then(&receiver, std::move(done));
+    using Result = std::invoke_result_t<Work>;
+    auto* watcher = new QFutureWatcher<Result>(&receiver);
+    QObject::connect(watcher, &QFutureWatcherBase::finished, &receiver,
+                     [watcher, done = std::move(done)]() mutable {
+                         watcher->deleteLater();
+                         if (watcher->isCanceled()) return;
+                         if constexpr (std::is_void_v<Result>)
+                             done();
+                         else
+                             done(watcher->result());
+                     });
+    watcher->setFuture(QtConcurrent::run(&workplace.workers, std::move(work)));
 }
 
 }  // namespace jogeon::terminal
