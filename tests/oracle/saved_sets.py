@@ -18,14 +18,19 @@ def read_sections(path):
     return sections
 
 
+def read_roles(values):
+    """Role -> value text, of the values of one condition: "10^0|60^5"."""
+    pairs = (entry.split("^") for entry in values.split("|"))
+    return {int(role): value for role, value in pairs}
+
+
 class SavedSet:
     def __init__(self, section):
         self.name, self.expression = section["Name"], section["Exp"]
         self.conditions = {}  # letter -> (six characters of the key, role -> value text)
         for index in range(int(section["Count"])):
             key, letter, _, _, values = section["%02d" % index].split(";")[:5]
-            pairs = (entry.split("^") for entry in values.split("|"))
-            self.conditions[letter] = key[:6], {int(role): value for role, value in pairs}
+            self.conditions[letter] = key[:6], read_roles(values)
 
 
 def read_sets(path):

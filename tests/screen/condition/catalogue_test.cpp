@@ -1,5 +1,7 @@
 #include "screen/condition/catalogue.h"
 
+#include <sstream>
+
 #include <gtest/gtest.h>
 
 #include "tests/screen/support/condition_files.h"
@@ -76,37 +78,23 @@ TEST_F(CatalogueTest, ReadsFields) {
          {"001 종합"_cp949, "002 대형주"_cp949, "0"});
     const FieldArray* fields = catalogue_.FindFieldsByKey("0101010008");
     ASSERT_TRUE(fields);
-    ASSERT_EQ(fields->size(), 6u);
-    const auto& field = [&](std::size_t i) -> const CIndexField& { return *(*fields)[i]; };
-
-    EXPECT_EQ(field(0).m_nId, 0);
-    EXPECT_EQ(field(0).m_strItems, "[%s] %s");
-    EXPECT_EQ(field(0).m_strCodes, "1^2");
-
-    EXPECT_EQ(field(1).m_nId, 1);
-    EXPECT_EQ(field(1).m_bStored, 1);
-    EXPECT_EQ(field(1).m_nRole, 40);
-    EXPECT_EQ(field(1).m_rcInit, (PanelRect{5, 10, 60, 30}));
-    EXPECT_EQ(field(1).m_rcCur, field(1).m_rcInit);
-    EXPECT_EQ(field(1).m_bRange, 0);
-    EXPECT_EQ(field(1).m_dMin, 0);
-    EXPECT_EQ(ToUtf8(field(1).m_strItems), "단순|지수");
-    EXPECT_EQ(field(1).m_strCodes, "1|2");
-    EXPECT_EQ(field(1).m_strVariantFields, "");
-
-    EXPECT_EQ(field(2).m_nId, 3);
-    EXPECT_EQ(field(2).m_bStored, 0);
-    EXPECT_EQ(field(2).m_bRange, 1);
-    EXPECT_EQ(field(2).m_dMin, 0.5);
-    EXPECT_EQ(field(2).m_dMax, 240);
-    EXPECT_EQ(field(2).m_strItems, "");
-
-    EXPECT_EQ(field(3).m_strVariantFields, "2^3|4");
-    EXPECT_EQ(ToUtf8(field(4).m_strItems), "전체|종합|대형주||");
-    EXPECT_EQ(field(4).m_strCodes, "ALL|001|002|0|");
-    EXPECT_EQ(field(4).m_strVariantFields, "");
-    EXPECT_EQ(field(5).m_strItems, "a.bmp");
-    EXPECT_EQ(field(5).m_strCodes, "");
+    std::vector<std::string> told;
+    for (const auto& field : *fields) {
+        std::ostringstream text;
+        text << field->m_nId << ' ' << field->m_bStored << ' ' << field->m_nRole << " at "
+             << field->m_rcInit.left << ',' << field->m_rcInit.top << ',' << field->m_rcInit.right << ','
+             << field->m_rcInit.bottom << " from " << field->m_dMin << " to " << field->m_dMax << ": "
+             << ToUtf8(field->m_strItems) << '/' << field->m_strCodes << '/' << field->m_strVariantFields;
+        told.push_back(text.str());
+        EXPECT_EQ(field->m_rcCur, field->m_rcInit);
+    }
+    EXPECT_EQ(
+        told,
+        (std::vector<std::string>{
+            "0 0 0 at 0,0,0,0 from 0 to 0: [%s] %s/1^2/", "1 1 40 at 5,10,60,30 from 0 to 0: 단순|지수/1|2/",
+            "3 0 60 at 5,10,60,30 from 0.5 to 240: //", "4 0 10 at 0,0,0,0 from 0 to 0: A|B/0|1/2^3|4",
+            "5 1 41 at 0,0,0,0 from 0 to 0: 전체|종합|대형주||/ALL|001|002|0|/",
+            "6 1 20 at 0,0,0,0 from 0 to 0: a.bmp//"}));
 }
 
 TEST_F(CatalogueTest, MakesIndependentConditions) {

@@ -31,31 +31,27 @@ TEST(IndexFieldTest, NamesTheRolesThatAreStored) {
 }
 
 TEST(IndexFieldTest, GivesValueAndTextByTypeWithoutControls) {
-    const struct {
-        int type, role, selected;
-        const char* code;
-        const char* text;
-    } cases[] = {{10, 20, -1, "", ""},
-                 {20, 20, -1, "typed", "typed"},
-                 {30, 60, -1, "typed", "typed"},
-                 {31, 60, 0, "typed", "typed"},
-                 {40, 40, 1, "s", "second"},
-                 {40, 40, -1, "", ""},
-                 {41, 40, 1, "typed", "typed"},
-                 {42, 40, 0, "f", "first"},
-                 {42, 40, 2, "", ""},
-                 {50, 20, -1, "typed", "typed"},
-                 {51, 50, -1, "0", "0"},
-                 {60, 50, 1, "s", "second"},
-                 {60, 10, -1, "0", ""},
-                 {61, 10, 1, "1", ""},
-                 {61, 50, 7, "", ""},
-                 {70, 20, -1, "typed", "typed"},
-                 {99, 20, 0, "", ""}};
-    for (const auto& c : cases) {
-        const CIndexField field = Options(c.type, c.role, c.selected);
-        EXPECT_EQ(field.GetValueCode(), c.code) << "type " << c.type << " option " << c.selected;
-        EXPECT_EQ(field.GetDisplayText(), c.text) << "type " << c.type << " option " << c.selected;
+    const std::tuple<int, int, int, const char*, const char*> cases[] = {{10, 20, -1, "", ""},
+                                                                         {20, 20, -1, "typed", "typed"},
+                                                                         {30, 60, -1, "typed", "typed"},
+                                                                         {31, 60, 0, "typed", "typed"},
+                                                                         {40, 40, 1, "s", "second"},
+                                                                         {40, 40, -1, "", ""},
+                                                                         {41, 40, 1, "typed", "typed"},
+                                                                         {42, 40, 0, "f", "first"},
+                                                                         {42, 40, 2, "", ""},
+                                                                         {50, 20, -1, "typed", "typed"},
+                                                                         {51, 50, -1, "0", "0"},
+                                                                         {60, 50, 1, "s", "second"},
+                                                                         {60, 10, -1, "0", ""},
+                                                                         {61, 10, 1, "1", ""},
+                                                                         {61, 50, 7, "", ""},
+                                                                         {70, 20, -1, "typed", "typed"},
+                                                                         {99, 20, 0, "", ""}};
+    for (const auto& [type, role, selected, code, text] : cases) {
+        const CIndexField field = Options(type, role, selected);
+        EXPECT_EQ(field.GetValueCode(), code) << "type " << type << " option " << selected;
+        EXPECT_EQ(field.GetDisplayText(), text) << "type " << type << " option " << selected;
     }
 }
 
@@ -95,19 +91,15 @@ TEST(IndexFieldTest, PrefersItsLiveControls) {
 }
 
 TEST(IndexFieldTest, TakesStoredCodes) {
-    const struct {
-        int type, role;
-        const char* code;
-        int selected;
-        const char* value;
-    } cases[] = {{30, 60, "s", 1, "s"},     {40, 40, "f", 0, "typed"}, {40, 40, "F", 0, "typed"},
-                 {41, 40, "f", 0, "f"},     {41, 40, "new", 1, "new"}, {60, 50, "none", 0, "typed"},
-                 {60, 10, "f", 1, "typed"}, {10, 20, "f", 1, "typed"}, {70, 20, "a.bmp", 1, "a.bmp"}};
-    for (const auto& c : cases) {
-        CIndexField field = Options(c.type, c.role, 1);
-        field.SetValue(c.code);
-        EXPECT_EQ(field.m_nSelected, c.selected) << c.type << " " << c.code;
-        EXPECT_EQ(field.m_strValue, c.value) << c.type << " " << c.code;
+    const std::tuple<int, int, const char*, int, const char*> cases[] = {
+        {30, 60, "s", 1, "s"},     {40, 40, "f", 0, "typed"}, {40, 40, "F", 0, "typed"},
+        {41, 40, "f", 0, "f"},     {41, 40, "new", 1, "new"}, {60, 50, "none", 0, "typed"},
+        {60, 10, "f", 1, "typed"}, {10, 20, "f", 1, "typed"}, {70, 20, "a.bmp", 1, "a.bmp"}};
+    for (const auto& [type, role, code, selected, value] : cases) {
+        CIndexField field = Options(type, role, 1);
+        field.SetValue(code);
+        EXPECT_EQ(field.m_nSelected, selected) << type << " " << code;
+        EXPECT_EQ(field.m_strValue, value) << type << " " << code;
     }
 }
 

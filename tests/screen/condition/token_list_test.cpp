@@ -6,19 +6,16 @@ namespace jogeon {
 namespace {
 
 TEST(TokenListTest, CountsEmptyTokensButTheLast) {
-    const struct {
-        const char* text;
-        std::vector<std::string> tokens;
-    } cases[] = {{"", {}},
-                 {"a|", {"a"}},
-                 {"|a", {"", "a"}},
-                 {"a||b", {"a", "", "b"}},
-                 {" a b | c\t|", {"a b", "c"}},
-                 {"a| ", {"a"}},
-                 {"  ", {""}},
-                 {"|", {""}},
-                 {"||", {"", ""}}};
-    for (const auto& c : cases) EXPECT_EQ(CTokenList(c.text, '|').Tokens(), c.tokens) << c.text;
+    const std::pair<const char*, std::vector<std::string>> cases[] = {{"", {}},
+                                                                      {"a|", {"a"}},
+                                                                      {"|a", {"", "a"}},
+                                                                      {"a||b", {"a", "", "b"}},
+                                                                      {" a b | c\t|", {"a b", "c"}},
+                                                                      {"a| ", {"a"}},
+                                                                      {"  ", {""}},
+                                                                      {"|", {""}},
+                                                                      {"||", {"", ""}}};
+    for (const auto& [text, tokens] : cases) EXPECT_EQ(CTokenList(text, '|').Tokens(), tokens) << text;
 }
 
 TEST(TokenListTest, ReadsNothingOutsideItsTokens) {

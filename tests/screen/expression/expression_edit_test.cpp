@@ -203,13 +203,14 @@ TEST_F(ExpressionEditTest, ShiftAndArrowsSelectWords) {
     Set("A and B");
     QTest::keyClick(&edit, Qt::Key_End);
     QTest::keyPress(&edit, Qt::Key_Shift);
-    for (const char* expected : {"A and [B]", "A and[ B]", "A [and B]"}) {
-        QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_Left, QString(), Qt::NoModifier);
+    for (const auto& [key, expected] : {std::pair(Qt::Key_Left, "A and [B]"),
+                                        {Qt::Key_Left, "A and[ B]"},
+                                        {Qt::Key_Right, "A and [B]"},
+                                        {Qt::Key_Left, "A and[ B]"}}) {
+        QTest::sendKeyEvent(QTest::Click, &edit, key, QString(), Qt::NoModifier);
         EXPECT_EQ(expected, Marked());
     }
-    EXPECT_EQ(2, edit.textCursor().position());
-    QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_Right, QString(), Qt::NoModifier);
-    EXPECT_EQ("A and[ B]", Marked());
+    EXPECT_EQ(5, edit.textCursor().position());
     QTest::keyRelease(&edit, Qt::Key_Shift);
     QTest::keyClick(&edit, Qt::Key_Left);
     EXPECT_EQ("A and[] B", Marked());
@@ -260,16 +261,13 @@ TEST_F(ExpressionEditTest, TheHoverTellsWhereADoubleClickToggles) {
     DoubleClickAt(3);
     EXPECT_EQ("(A) or B", edit.ExpressionText());
     EXPECT_EQ(1, screen.changes);
-}
-
-TEST_F(ExpressionEditTest, AHundredDoubleClicksAtOnePlaceEndWhereTheyBegan) {
-    Set("A or B and C");
-    HoverAt(9);
-    for (int i = 0; i < 100; ++i) {
-        DoubleClickAt(8);
-        ASSERT_EQ(i % 2 ? "A or B [and] C" : "A or B [or] C", Marked()) << i;
+    Set("A and B");
+    HoverAt(3);
+    for (const char* toggled : {"A [or] B", "A [and] B", "A [or] B", "A [and] B"}) {
+        DoubleClickAt(2);
+        EXPECT_EQ(toggled, Marked());
     }
-    EXPECT_EQ(100, screen.changes);
+    EXPECT_EQ(5, screen.changes);
 }
 
 TEST_F(ExpressionEditTest, ThePostedChangeOutlivesNoWindow) {

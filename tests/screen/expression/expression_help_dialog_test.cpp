@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -17,18 +18,6 @@ namespace jogeon {
 namespace {
 
 TEST(ExpressionHelpDialogTest, EachTopicHasItsText) {
-    const std::pair<const char*, const char*> topics[] = {
-        {"[일반사항]", "[수식작성시 참고 사항] "},
-        {"[지표식] A..Z", "[지표식 이름] "},
-        {"[연산자] AND", "[AND 연산자] "},
-        {"[연산자] OR", "[OR 연산자] "},
-        {"[연산자] !", "[NOT 연산자] "},
-        {"[괄호] ()", "[소괄호] "},
-        {"[NOT, 괄호]",
-         "[1] Not으로 설정하려는 영역을 마우스나 키보드로 선택한 후 '!' 버튼을 누르시면 NOT이 지정됩니다. "},
-        {"[순서 변경/삭제]", "[순서변경과 삭제] "},
-        {"[선택과 지표값 보기]", "[선택과 지표값 보기] "},
-    };
     test::ScriptedQuestions questions;
     questions.onRun = [&](const std::string&, void* object) {
         auto& dialog = *static_cast<QDialog*>(object);
@@ -36,13 +25,16 @@ TEST(ExpressionHelpDialogTest, EachTopicHasItsText) {
         auto& list = *dialog.findChild<QListWidget*>("31515");
         const auto& text = *dialog.findChild<QPlainTextEdit*>("31514");
         EXPECT_TRUE(text.isReadOnly());
-        EXPECT_EQ(static_cast<int>(std::size(topics)), list.count());
+        EXPECT_EQ(9, list.count());
+        std::set<QString> texts;
         for (int row = 0; row < list.count(); ++row) {
             EXPECT_EQ(row, list.currentRow());
-            EXPECT_EQ(topics[row].first, list.currentItem()->text().toStdString());
-            EXPECT_EQ("", text.toPlainText().section('\n', 0, 0));
-            EXPECT_EQ(topics[row].second, text.toPlainText().section('\n', 1, 1).toStdString());
+            EXPECT_TRUE(texts.insert(text.toPlainText()).second);
             EXPECT_EQ(0, text.horizontalScrollBar()->maximum()) << "cut off in row " << row;
+            if (row == 3) {
+                EXPECT_EQ("[연산자] OR", list.currentItem()->text().toStdString());
+                EXPECT_EQ("[OR 연산자] ", text.toPlainText().section('\n', 1, 1).toStdString());
+            }
             QTest::keyClick(&list, Qt::Key_Down);
         }
         EXPECT_EQ(0, list.horizontalScrollBar()->maximum());

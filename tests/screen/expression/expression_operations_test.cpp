@@ -27,10 +27,7 @@ std::string After(SelectionEdit (*operation)(std::string_view, TextSelection), c
     }
 }
 
-struct Case {
-    const char* before;
-    const char* after;
-};
+using Case = std::pair<const char*, const char*>;
 
 TEST(ExpressionOperationsTest, NotComesAndGoes) {
     const Case cases[] = {
@@ -53,7 +50,7 @@ TEST(ExpressionOperationsTest, NotComesAndGoes) {
         {"[!(A and)]", "refused at 4"},
         {"[  ]", "refused at -1"},
     };
-    for (const Case& each : cases) EXPECT_EQ(each.after, After(ToggleNot, each.before)) << each.before;
+    for (const auto& [before, after] : cases) EXPECT_EQ(after, After(ToggleNot, before)) << before;
 }
 
 TEST(ExpressionOperationsTest, BracketsComeAndGo) {
@@ -65,7 +62,7 @@ TEST(ExpressionOperationsTest, BracketsComeAndGo) {
         {"A and [(B] or C)", "refused at 0"},
         {"[ ]A", "refused at -1"},
     };
-    for (const Case& each : put) EXPECT_EQ(each.after, After(Parenthesize, each.before)) << each.before;
+    for (const auto& [before, after] : put) EXPECT_EQ(after, After(Parenthesize, before)) << before;
 
     const Case remove[] = {
         {"[A]", "short"},
@@ -77,8 +74,8 @@ TEST(ExpressionOperationsTest, BracketsComeAndGo) {
         {"[A and (B]) or C", "refused at 6"},
         {"([A)] and B", "refused at 1"},
     };
-    for (const Case& each : remove) {
-        EXPECT_EQ(each.after, After(RemoveParenthesis, each.before)) << each.before;
+    for (const auto& [before, after] : remove) {
+        EXPECT_EQ(after, After(RemoveParenthesis, before)) << before;
     }
 }
 
@@ -87,7 +84,7 @@ TEST(ExpressionOperationsTest, AllMarksGoEvenWhereNoExpressionIsSelected) {
         {"[!]A", "short"}, {"[!(A and] B)", "[A and] B)"}, {"C or [!(!A and ((B)))]", "C or [A and B]"},
         {"[((]A", "[]A"},  {"[A and B]", "nothing"},
     };
-    for (const Case& each : cases) EXPECT_EQ(each.after, After(RemoveAllMarks, each.before)) << each.before;
+    for (const auto& [before, after] : cases) EXPECT_EQ(after, After(RemoveAllMarks, before)) << before;
 }
 
 TEST(ExpressionCharactersTest, OnlyATextThatGrowsBeyondItsRoomIsRefused) {

@@ -47,11 +47,7 @@ TEST(ExpressionTextTest, TellsWholeBracketsFromPairsAtBothEnds) {
 }
 
 TEST(ExpressionTextTest, RemovesABracketWithItsPartner) {
-    struct Case {
-        const char* text;
-        int index;
-        const char* result;
-    };
+    using Case = std::tuple<const char*, int, const char*>;
     const Case fromClose[] = {
         {"A&(B|C)", 6, "A&B|C"},
         {"!(A)", 3, "A"},
@@ -62,13 +58,14 @@ TEST(ExpressionTextTest, RemovesABracketWithItsPartner) {
         {"A", 5, "A"},
         {"A", -1, "A"},
     };
-    for (const Case& each : fromClose) EXPECT_EQ(each.result, RemoveBracketFromClose(each.text, each.index));
+    for (const auto& [text, index, result] : fromClose)
+        EXPECT_EQ(result, RemoveBracketFromClose(text, index));
     const Case fromOpen[] = {
         {"A&(B|C)", 2, "A&B|C"}, {"!(A)", 1, "!A"}, {"(A&(B|C))", 0, "A&(B|C)"},
         {"((A)&B)", 1, "(A&B)"}, {"A&(B", 2, "&B"}, {"(A", 0, "A"},
         {"A", 5, "A"},           {"A", -1, "A"},
     };
-    for (const Case& each : fromOpen) EXPECT_EQ(each.result, RemoveBracketFromOpen(each.text, each.index));
+    for (const auto& [text, index, result] : fromOpen) EXPECT_EQ(result, RemoveBracketFromOpen(text, index));
 }
 
 }  // namespace

@@ -6,13 +6,7 @@ namespace jogeon {
 namespace {
 
 TEST(LetterEditsTest, InsertsALetterAtItsPlaceAmongTheOthers) {
-    struct Case {
-        const char* text;
-        int position;
-        bool negated;
-        const char* result;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, int, bool, const char*> cases[] = {
         {"", 3, true, "X"},
         {"A", 0, false, "X&A"},
         {"A|B", 0, true, "!X&A|B"},
@@ -27,21 +21,15 @@ TEST(LetterEditsTest, InsertsALetterAtItsPlaceAmongTheOthers) {
         {"AB", 1, false, "AB"},
         {"&", 1, false, "&&X"},
     };
-    for (const Case& each : cases) {
-        std::string text = each.text;
-        InsertLetter(text, 'X', each.position, each.negated);
-        EXPECT_EQ(each.result, text) << each.text << " " << each.position;
+    for (const auto& [before, position, negated, result] : cases) {
+        std::string text = before;
+        InsertLetter(text, 'X', position, negated);
+        EXPECT_EQ(result, text) << before << " " << position;
     }
 }
 
 TEST(LetterEditsTest, RemovesALetter) {
-    struct Case {
-        const char* text;
-        char letter;
-        const char* result;
-        bool negated;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, char, const char*, bool> cases[] = {
         {"A&B|C", 'X', "A&B|C", false},
         {"A", 'A', "", false},
         {"A&B|C", 'A', "B|C", false},
@@ -68,29 +56,23 @@ TEST(LetterEditsTest, RemovesALetter) {
         {"C&(A|B", 'A', "&B", false},
         {"(A)", ')', "(A)", false},  // no letter
     };
-    for (const Case& each : cases) {
-        std::string text = each.text;
-        EXPECT_EQ(each.negated, RemoveLetter(text, each.letter)) << each.text;
-        EXPECT_EQ(each.result, text) << each.text;
-        EXPECT_EQ(each.result, RemoveLetterFromExpression(each.text, each.letter));
+    for (const auto& [before, letter, result, negated] : cases) {
+        std::string text = before;
+        EXPECT_EQ(negated, RemoveLetter(text, letter)) << before;
+        EXPECT_EQ(result, text) << before;
     }
 }
 
 TEST(LetterEditsTest, GivesLettersAnewFromLeftToRight) {
-    struct Case {
-        const char* text;
-        const char* letters;
-        const char* result;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"B&A", "AB", "A&B"},     {"C&(A|!F)", "ABD", "A&(B|!D)"},
         {"B&B|A", "AC", "A&C|A"},  // more letters than conditions
         {"B", "ABC", "A"},        {"B&A", "", "B&A"},
     };
-    for (const Case& each : cases) {
-        std::string text = each.text;
-        RenumberLetters(text, each.letters);
-        EXPECT_EQ(each.result, text) << each.text;
+    for (const auto& [before, letters, result] : cases) {
+        std::string text = before;
+        RenumberLetters(text, letters);
+        EXPECT_EQ(result, text) << before;
     }
 }
 

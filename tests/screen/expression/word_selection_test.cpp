@@ -33,12 +33,7 @@ std::vector<std::string> Press(std::string text, const char* keys) {
 }
 
 TEST(WordSelectionTest, ShiftAndArrowsSelectWholeWords) {
-    struct Case {
-        const char* caret;
-        const char* keys;
-        std::vector<std::string> after;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, std::vector<std::string>> cases[] = {
         {"A and B^", "llllll", {"A and [B]", "A and[ B]", "A [and B]", "A[ and B]", "[A and B]", "="}},
         {"A and B^",
          "lllrrr",
@@ -52,7 +47,7 @@ TEST(WordSelectionTest, ShiftAndArrowsSelectWholeWords) {
         {"A and B^", "l-l", {"A and [B]", "A and[ ]B"}},
         {"^", "lr", {"=", "[]"}},
     };
-    for (const Case& each : cases) EXPECT_EQ(each.after, Press(each.caret, each.keys)) << each.caret;
+    for (const auto& [caret, keys, after] : cases) EXPECT_EQ(after, Press(caret, keys)) << caret;
 }
 
 TEST(WordSelectionTest, ATextThatChangesUnderShiftIsSelectedFromItsCaret) {
@@ -63,24 +58,18 @@ TEST(WordSelectionTest, ATextThatChangesUnderShiftIsSelectedFromItsCaret) {
 }
 
 TEST(OperatorHoverTest, FindsTheOperatorBetweenBlanks) {
-    struct Case {
-        const char* text;
-        int index;
-        OperatorKind kind;
-        TextSelection place;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, int, OperatorKind, TextSelection> cases[] = {
         {"A and B", 2, OperatorKind::And, {2, 5}},     {"A and B", 4, OperatorKind::And, {2, 5}},
         {"A AnD B", 3, OperatorKind::And, {2, 5}},     {"A or B", 2, OperatorKind::Or, {2, 4}},
         {"A & B", 2, OperatorKind::Ampersand, {2, 3}}, {"A | B", 2, OperatorKind::Bar, {2, 3}},
         {"A and B", 1, OperatorKind::None, {1, 2}},    {"A and B", 6, OperatorKind::None, {6, 7}},
         {"A&B", 1, OperatorKind::None, {0, 3}},        {"A or(B)", 3, OperatorKind::None, {2, 7}},
     };
-    for (const Case& each : cases) {
+    for (const auto& [text, index, kind, place] : cases) {
         OperatorHover hover;
-        TestHover(each.text, each.index, hover);
-        EXPECT_EQ(each.kind, hover.kind) << each.text << each.index;
-        EXPECT_EQ(each.place, hover.place) << each.text << each.index;
+        TestHover(text, index, hover);
+        EXPECT_EQ(kind, hover.kind) << text << index;
+        EXPECT_EQ(place, hover.place) << text << index;
     }
     OperatorHover hover{OperatorKind::Or, {2, 4}};
     TestHover("A or B", 6, hover);

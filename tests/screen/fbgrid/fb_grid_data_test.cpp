@@ -219,11 +219,7 @@ TEST(FBGridDataDeathTest, ADebugBuildStopsAtWrongIndices) {
 #endif
 
 TEST(FBGridDataTest, FormatsNumbers) {
-    const struct {
-        double value;
-        int decimals;
-        const char* text;
-    } cases[] = {
+    const std::tuple<double, int, const char*> cases[] = {
         {0, 0, "0"},
         {100, 0, "100"},
         {1000, 0, "1,000"},
@@ -241,7 +237,8 @@ TEST(FBGridDataTest, FormatsNumbers) {
         {-std::numeric_limits<double>::infinity(), 1, "-inf"},
         {std::numeric_limits<double>::quiet_NaN(), 0, "nan"},
     };
-    for (const auto& c : cases) EXPECT_EQ(c.text, FBGridData::FormatFloat(c.value, c.decimals)) << c.value;
+    for (const auto& [value, decimals, text] : cases)
+        EXPECT_EQ(text, FBGridData::FormatFloat(value, decimals)) << value;
     EXPECT_EQ(309u + 102, FBGridData::FormatFloat(std::numeric_limits<double>::max(), 0).size());
     EXPECT_EQ(1 + 309u + 3, FBGridData::FormatFloat(std::numeric_limits<double>::lowest(), 2).size());
 }

@@ -25,19 +25,15 @@ std::unique_ptr<FBGridData> Grid(const std::vector<int>& heights, const std::vec
 
 TEST(FBGridGeometryTest, StartsWithAWholeRow) {
     const auto grid = Grid({10, 20, 20, 20, 20}, {30, 0, 40, 50});
-    const struct {
-        int scrollY;
-        CCellRange visible;
-        int topOfLast;  // -1: not on the window
-    } cases[] = {
+    const std::tuple<int, CCellRange, int> cases[] = {
         {0, {1, 1, 3, 2}, -1},  {1, {2, 1, 4, 2}, 50},   {20, {2, 1, 4, 2}, 50}, {21, {3, 1, 4, 2}, 30},
         {39, {3, 1, 4, 2}, 30}, {999, {3, 1, 4, 2}, 30},  // a stale position is the last one
     };
-    for (const auto& c : cases) {
-        const FBGridGeometry geometry(*grid, {60, 51}, 0, c.scrollY);
-        EXPECT_EQ(c.visible, geometry.GetVisibleRange()) << c.scrollY;
-        EXPECT_EQ((CCellID{c.visible.minRow, 1}), geometry.GetTopleftNonFixedCell()) << c.scrollY;
-        EXPECT_EQ(c.topOfLast, geometry.GetCellRect(4, 0).value_or(GridRect{0, -1, 0, 0}).top) << c.scrollY;
+    for (const auto& [scrollY, visible, topOfLast] : cases) {
+        const FBGridGeometry geometry(*grid, {60, 51}, 0, scrollY);
+        EXPECT_EQ(visible, geometry.GetVisibleRange()) << scrollY;
+        EXPECT_EQ((CCellID{visible.minRow, 1}), geometry.GetTopleftNonFixedCell()) << scrollY;
+        EXPECT_EQ(topOfLast, geometry.GetCellRect(4, 0).value_or(GridRect{0, -1, 0, 0}).top) << scrollY;
     }
 }
 
@@ -53,27 +49,23 @@ TEST(FBGridGeometryTest, ALastRowLongerThanThePageIsShown) {
 TEST(FBGridGeometryTest, FindsCellsAndTheirRectangles) {
     const auto grid = Grid({10, 20, 20, 20}, {30, 0, 40, 50, 60});
     const FBGridGeometry geometry(*grid, {150, 60}, 1, 20);  // the columns from 3 on, the rows from 2 on
-    const struct {
-        GridPoint point;
-        CCellID any;
-        CCellID body;
-    } cases[] = {
+    const std::tuple<GridPoint, CCellID, CCellID> cases[] = {
         {{0, 0}, {0, 0}, {-1, -1}},   {{29, 9}, {0, 0}, {-1, -1}},   {{30, 9}, {0, 3}, {-1, 3}},
         {{29, 10}, {2, 0}, {2, -1}},  {{79, 29}, {2, 3}, {2, 3}},    {{80, 30}, {3, 4}, {3, 4}},
         {{139, 49}, {3, 4}, {3, 4}},  {{140, 49}, {3, -1}, {3, -1}}, {{139, 50}, {-1, 4}, {-1, 4}},
         {{-1, 15}, {2, -1}, {2, -1}}, {{35, 200}, {-1, 3}, {-1, 3}},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.any, geometry.GetCellFromPt(c.point, true)) << c.point.x << " " << c.point.y;
-        EXPECT_EQ(c.body, geometry.GetCellFromPt(c.point, false)) << c.point.x << " " << c.point.y;
+    for (const auto& [point, any, body] : cases) {
+        EXPECT_EQ(any, geometry.GetCellFromPt(point, true)) << point.x << " " << point.y;
+        EXPECT_EQ(body, geometry.GetCellFromPt(point, false)) << point.x << " " << point.y;
         _tagGridHitTestInfo info{7, 7, {7, 7, 7, 7}, 7, 7};
-        const bool hit = c.any.row >= 0 && c.any.col >= 0;
-        ASSERT_EQ(hit ? 1 : 0, geometry.HitTest(c.point, info));
-        EXPECT_EQ(hit ? c.any : (CCellID{0, 0}), (CCellID{info.row, info.col}));
+        const bool hit = any.row >= 0 && any.col >= 0;
+        ASSERT_EQ(hit ? 1 : 0, geometry.HitTest(point, info));
+        EXPECT_EQ(hit ? any : (CCellID{0, 0}), (CCellID{info.row, info.col}));
         EXPECT_EQ(hit ? 1 : 0, info.cell);
-        EXPECT_EQ(hit && c.any.row == 0 ? 1 : 0, info.header);
+        EXPECT_EQ(hit && any.row == 0 ? 1 : 0, info.header);
         if (hit)
-            EXPECT_TRUE(info.rect.Contains(c.point));
+            EXPECT_TRUE(info.rect.Contains(point));
         else
             EXPECT_EQ(GridRect{}, info.rect);
     }
@@ -99,21 +91,18 @@ TEST(FBGridGeometryTest, StepsThroughTheRows) {
     EXPECT_TRUE(range.needed);
     EXPECT_EQ(50, range.maximum);
     EXPECT_EQ(40, range.page);
-    const struct {
-        int from;
-        int lineUp, lineDown, pageUp, pageDown;
-    } cases[] = {
+    const std::tuple<int, int, int, int, int> cases[] = {
         {0, 0, 20, 0, 40},    {20, 0, 50, 0, 50},
         {25, 0, 25, 0, 50},  // row 3 is at the top: hidden, so a line down stands still
         {50, 20, 50, 20, 50}, {99, 20, 50, 20, 50},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.lineUp, after(c.from, ScrollStep::LineUp)) << c.from;
-        EXPECT_EQ(c.lineDown, after(c.from, ScrollStep::LineDown)) << c.from;
-        EXPECT_EQ(c.pageUp, after(c.from, ScrollStep::PageUp)) << c.from;
-        EXPECT_EQ(c.pageDown, after(c.from, ScrollStep::PageDown)) << c.from;
-        EXPECT_EQ(0, after(c.from, ScrollStep::Top));
-        EXPECT_EQ(50, after(c.from, ScrollStep::Bottom));
+    for (const auto& [from, lineUp, lineDown, pageUp, pageDown] : cases) {
+        EXPECT_EQ(lineUp, after(from, ScrollStep::LineUp)) << from;
+        EXPECT_EQ(lineDown, after(from, ScrollStep::LineDown)) << from;
+        EXPECT_EQ(pageUp, after(from, ScrollStep::PageUp)) << from;
+        EXPECT_EQ(pageDown, after(from, ScrollStep::PageDown)) << from;
+        EXPECT_EQ(0, after(from, ScrollStep::Top));
+        EXPECT_EQ(50, after(from, ScrollStep::Bottom));
     }
 }
 

@@ -1,31 +1,18 @@
 // A saved sheet as a spreadsheet program reads it that knows nothing of ours. Skipped where it isn't
 // installed.
-
-#include <cstdlib>
-
 #include <gtest/gtest.h>
 
 #include "screen/fbgrid/fb_grid_sheet.h"
-#include "tests/screen/support/condition_files.h"
+#include "tests/screen/support/spreadsheet.h"
 
 namespace jogeon {
 namespace {
 
-// The sheet as UTF-8 text, commas between columns. Texts are quoted and numbers aren't, as each cell was
-// stored. The file names no code page, so the program takes that of the desktop's language.
-std::string AsCsv(const std::filesystem::path& folder) {
-    constexpr const char* kQuotedTextInUtf8 = "44,34,76,1,,0,true,false";
-    const std::string command =
-        "LC_ALL=ko_KR.UTF-8 timeout 120 soffice --headless -env:UserInstallation=file://" +
-        (folder / "profile").string() +
-        " --convert-to 'csv:Text - txt - csv (StarCalc):" + kQuotedTextInUtf8 + "' --outdir " +
-        folder.string() + " " + (folder / "sheet.xls").string() + " >" + (folder / "log").string() + " 2>&1";
-    if (std::system(command.c_str()) != 0) return test::ReadBytes(folder / "log");
-    return test::ReadBytes(folder / "sheet.csv");
-}
+// UTF-8, commas between columns. Texts are quoted and numbers aren't, as each cell was stored.
+constexpr const char* kQuotedTextInUtf8 = "44,34,76,1,,0,true,false";
 
 TEST(GridSheetCalcTest, ASpreadsheetProgramReadsTheSheet) {
-    if (std::system("command -v soffice >/dev/null") != 0) GTEST_SKIP() << "soffice is not installed";
+    if (!test::HasSpreadsheetProgram()) GTEST_SKIP() << "soffice is not installed";
     FBGridData grid;
     for (const char* title : {"", "종목명", "숨김", "값"})
         grid.AddColumn(ToCp949(title), std::string_view(title) == "숨김" ? 0 : 50);
@@ -46,7 +33,7 @@ TEST(GridSheetCalcTest, ASpreadsheetProgramReadsTheSheet) {
         ",,-5\n"
         ",,\n"
         ",\"A and (B or !C) 똠방\",\n",
-        AsCsv(folder.Path()));
+        test::AsCsv(folder.Path(), "sheet.xls", kQuotedTextInUtf8, "sheet.csv", "ko_KR.UTF-8"));
 }
 
 }  // namespace

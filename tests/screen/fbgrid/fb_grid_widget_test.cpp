@@ -45,11 +45,7 @@ protected:
 };
 
 TEST_F(FBGridTest, PointerTellsTheParent) {
-    const struct {
-        const char* steps;
-        const char* told;
-        const char* focused;
-    } cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"down 1,4; up 1,4", "8:1,4", "1,4"},
         {"down 1,1; up 1,1", "8:1,1", "1,1"},
         {"down 1,0; up 1,0", "8:1,0", "1,0"},                                 // a click toggles nothing
@@ -69,16 +65,16 @@ TEST_F(FBGridTest, PointerTellsTheParent) {
         {"down 1,1; move 3,1; up 3,1", "8:1,1", "1,1"},  // other columns don't
     };
     grid.SetDragAndDropColumn(4);
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.steps);
+    for (const auto& [steps, told, focused] : cases) {
+        SCOPED_TRACE(steps);
         grid.SetFocusedCellID({5, 4});
         grid[1][0].check = CCell::kOff;
         grid[2][0].check = CCell::kDisabled;
-        parent.Do(one.steps);
-        EXPECT_EQ(parent.Told(), one.told);
-        EXPECT_EQ(Focused(), one.focused);
+        parent.Do(steps);
+        EXPECT_EQ(parent.Told(), told);
+        EXPECT_EQ(Focused(), focused);
         EXPECT_EQ(grid.viewport()->cursor().shape(), Qt::ArrowCursor);
-        const bool toggled = std::string(one.told).find(" 3 ") != std::string::npos;
+        const bool toggled = std::string(told).find(" 3 ") != std::string::npos;
         EXPECT_EQ(grid[1][0].check, toggled ? CCell::kOn : CCell::kOff);
         EXPECT_EQ(grid[2][0].check, CCell::kDisabled);
     }
@@ -97,12 +93,7 @@ TEST_F(FBGridTest, LeftPressTakesTheKeyboardFocusAndTheRightOneDoesNot) {
 TEST_F(FBGridTest, KeysMoveTheFocus) {
     grid.SetColWidth(2, 0);
     grid.SetColWidth(3, 1);
-    const struct {
-        CCellID from;
-        Qt::Key key;
-        const char* focused;
-        const char* told;
-    } cases[] = {
+    const std::tuple<CCellID, Qt::Key, const char*, const char*> cases[] = {
         {{2, 1}, Qt::Key_Up, "1,1", ""},          {{1, 1}, Qt::Key_Up, "1,1", ""},  // headers are not reached
         {{4, 1}, Qt::Key_Down, "5,1", ""},        {{5, 1}, Qt::Key_Down, "5,1", ""},
         {{2, 1}, Qt::Key_Left, "2,0", ""},        {{2, 0}, Qt::Key_Left, "2,0", ""},
@@ -115,12 +106,12 @@ TEST_F(FBGridTest, KeysMoveTheFocus) {
         {{2, 4}, Qt::Key_Delete, "2,4", "0"},     {{2, 4}, Qt::Key_F5, "2,4", ""},
         {{2, 4}, Qt::Key_Escape, "2,4", ""},
     };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.key);
-        Focus(one.from.row, one.from.col);
-        Keys({one.key});
-        EXPECT_EQ(Focused(), one.focused);
-        EXPECT_EQ(parent.Told(), one.told);
+    for (const auto& [from, key, focused, told] : cases) {
+        SCOPED_TRACE(key);
+        Focus(from.row, from.col);
+        Keys({key});
+        EXPECT_EQ(Focused(), focused);
+        EXPECT_EQ(parent.Told(), told);
     }
     grid.SetColWidth(0, 0);
     Focus(1, 1);
@@ -230,19 +221,16 @@ TEST_F(FBGridTest, ScrollBarsStepByRowsAndTakeTheFocusFirst) {
     other.show();
     QScrollBar& bar = *grid.verticalScrollBar();
     const int maximum = 50 * 41 - 182;
-    const struct {
-        QAbstractSlider::SliderAction action;
-        int position;
-    } steps[] = {
+    const std::pair<QAbstractSlider::SliderAction, int> steps[] = {
         {QAbstractSlider::SliderSingleStepAdd, 21},  {QAbstractSlider::SliderSingleStepAdd, 41},
         {QAbstractSlider::SliderSingleStepSub, 21},  {QAbstractSlider::SliderPageStepAdd, 21 + 182},
         {QAbstractSlider::SliderToMaximum, maximum}, {QAbstractSlider::SliderSingleStepAdd, maximum},
         {QAbstractSlider::SliderToMinimum, 0},       {QAbstractSlider::SliderSingleStepSub, 0},
     };
-    for (const auto& step : steps) {
+    for (const auto& [action, position] : steps) {
         other.setFocus();
-        bar.triggerAction(step.action);
-        EXPECT_EQ(Top(), step.position);
+        bar.triggerAction(action);
+        EXPECT_EQ(Top(), position);
         EXPECT_TRUE(grid.hasFocus());
     }
     bar.setSliderPosition(50);  // a dragged thumb
@@ -303,16 +291,13 @@ TEST_F(FBGridTest, KeysCarryARowBetweenItsBounds) {
     grid.BeginMoveRow(2, 4);
     EXPECT_EQ(Focused(), "-1,-1");
     EXPECT_EQ(grid[3][0].backColour, 0xD6FFF1u);
-    const struct {
-        Qt::Key key;
-        const char* rows;
-    } steps[] = {
+    const std::pair<Qt::Key, const char*> steps[] = {
         {Qt::Key_Up, "13245"},   {Qt::Key_Up, "13245"},   {Qt::Key_Left, "13245"},
         {Qt::Key_Down, "12345"}, {Qt::Key_Down, "12435"}, {Qt::Key_Down, "12435"},
     };
-    for (const auto& step : steps) {
-        Keys({step.key});
-        EXPECT_EQ(texts(), step.rows);
+    for (const auto& [key, rows] : steps) {
+        Keys({key});
+        EXPECT_EQ(texts(), rows);
     }
     EXPECT_EQ(grid[4][2].backColour, 0xD6FFF1u) << "the mark moves along";
     Keys({Qt::Key_Return});

@@ -102,28 +102,23 @@ TEST_F(FBGridInPlaceTest, KeysOfTheEditorAreNotTheGrids) {
 }
 
 TEST_F(FBGridInPlaceTest, NumbersAreEditedPlainly) {
-    const struct {
-        double value;
-        const char* shown;
-        const char* typed;  // null for nothing
-        double stored;
-    } cases[] = {
+    const std::tuple<double, const char*, const char*, double> cases[] = {
         {1234567, "1234567", "2,5", 2},
         {12.5, "12.5", "-7.25원", -7.25},
         {100, "100", "abc", 0},
         {0, "0", " 1e3", 1000},
         {0.1234567, "0.123457", nullptr, 0.1234567},
     };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.shown);
+    for (const auto& [value, shown, typed, stored] : cases) {
+        SCOPED_TRACE(shown);
         edited.state = CCell::kEdit | CCell::kNumeric;
-        edited.value = one.value;
+        edited.value = value;
         edited.text = "unit";
         ASSERT_TRUE(OpenEdit());
-        EXPECT_EQ(Edit()->text(), one.shown);
-        if (one.typed) Edit()->setText(one.typed);
+        EXPECT_EQ(Edit()->text(), shown);
+        if (typed) Edit()->setText(typed);
         QTest::keyClick(Edit(), Qt::Key_Return);
-        EXPECT_EQ(edited.value, one.stored);
+        EXPECT_EQ(edited.value, stored);
         EXPECT_EQ(edited.text, "unit");
         grid.SetFocusedCellID({});
     }
@@ -224,10 +219,7 @@ TEST_F(FBGridInPlaceTest, OnlyCertainWindowsCloseAList) {
         widget->setProperty("windowClass", name);
         return widget;
     };
-    const struct {
-        QWidget* window;
-        bool closes;
-    } cases[] = {
+    const std::pair<QWidget*, bool> cases[] = {
         {new QLineEdit(&parent), true},
         {new QComboBox(&parent), true},
         {new QCheckBox(&parent), true},
@@ -239,15 +231,15 @@ TEST_F(FBGridInPlaceTest, OnlyCertainWindowsCloseAList) {
         {named(new QLineEdit(&parent), "Editor"), false},  // only the exact name counts
     };
     for (const std::uint32_t state : {CCell::kList, CCell::kFreeList}) {
-        for (const auto& one : cases) {
-            SCOPED_TRACE(one.window->metaObject()->className());
+        for (const auto& [window, closes] : cases) {
+            SCOPED_TRACE(window->metaObject()->className());
             ASSERT_TRUE(OpenList(state));
             List()->setCurrentIndex(2);
             listed.check = 7;  // so that the loss of the focus shows what it stores
-            one.window->show();
-            one.window->setFocus();
-            EXPECT_EQ(List() == nullptr, one.closes);
-            EXPECT_EQ(listed.check, one.closes && state == CCell::kList ? 2u : 7u);
+            window->show();
+            window->setFocus();
+            EXPECT_EQ(List() == nullptr, closes);
+            EXPECT_EQ(listed.check, closes && state == CCell::kList ? 2u : 7u);
             grid.setFocus();
             EXPECT_FALSE(List());
         }

@@ -44,12 +44,7 @@ std::vector<std::string> Keys(const CIniMemFile& file, std::string_view section)
 }
 
 TEST_F(IniMemFileTest, ReadsLinesByTheirForm) {
-    struct Case {
-        std::string_view read;
-        int result;
-        std::string_view saved;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string_view, int, std::string_view> cases[] = {
         {"", 0, ""},
         {"a=1\n", 0, ""},
         {"; only\r\n;comments", 0, ""},
@@ -67,15 +62,15 @@ TEST_F(IniMemFileTest, ReadsLinesByTheirForm) {
         {"[s]\na=1\n[s]\nb=2\n", 1, "[s]\r\nb=2\r\n\r\n[s]\r\nb=2\r\n\r\n"},
         {std::string_view("[s]\na=1\0[t]\nb=2", 15), 1, "[s]\r\na=1\r\n\r\n"},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.read);
-        WriteBytes(path_, each.read);
+    for (const auto& [read, result, saved] : cases) {
+        SCOPED_TRACE(read);
+        WriteBytes(path_, read);
         CIniMemFile file;
-        EXPECT_EQ(each.result, file.LoadIniFile(path_, 1));
-        if (each.saved.empty()) {
+        EXPECT_EQ(result, file.LoadIniFile(path_, 1));
+        if (saved.empty()) {
             EXPECT_THAT(Sections(file), IsEmpty());
         } else {
-            EXPECT_EQ(each.saved, Saved(file));
+            EXPECT_EQ(saved, Saved(file));
         }
     }
 }
@@ -113,12 +108,9 @@ TEST_F(IniMemFileTest, AFileBeyondAllMeasureCannotBeRead) {
 TEST_F(IniMemFileTest, ReadsValues) {
     WriteBytes(path_, "[s]\nn=42\nmixed=12abc\nword=abc\nhex=0x10\nblank= 12\nminus=-3\nd=2.5e1x\nempty=\n");
     const CIniMemFile file(path_, 1);
-    EXPECT_EQ(42u, file.GetInt("s", "n", 7));
-    EXPECT_EQ(12u, file.GetInt("s", "mixed", 7));
-    EXPECT_EQ(0u, file.GetInt("s", "word", 7));
-    EXPECT_EQ(0u, file.GetInt("s", "hex", 7));
-    EXPECT_EQ(12u, file.GetInt("s", "blank", 7));
-    EXPECT_EQ(-3, static_cast<int>(file.GetInt("s", "minus", 7)));
+    for (const auto& [key, value] :
+         {std::pair("n", 42), {"mixed", 12}, {"word", 0}, {"hex", 0}, {"blank", 12}, {"minus", -3}})
+        EXPECT_EQ(value, static_cast<int>(file.GetInt("s", key, 7))) << key;
     EXPECT_EQ(25.0, file.GetDouble("s", "d", 7));
     EXPECT_EQ(12.0, file.GetDouble("s", "blank", 7));
     EXPECT_EQ(0.0, file.GetDouble("s", "word", 7));
@@ -169,46 +161,32 @@ TEST_F(IniMemFileTest, AValueThatIsTheDefaultIsNotWrittenButCountsAsAChange) {
 
 // Each change on a file in memory, and whether the object's end then writes the file.
 TEST_F(IniMemFileTest, KnowsWhatCountsAsAChange) {
-    struct Case {
-        const char* name;
-        void (*change)(CIniMemFile&);
-        const char* saved;  // null: not written
-    };
-    const Case cases[] = {
-        {"reading", [](CIniMemFile& file) { file.GetString("s", "a", ""); }, nullptr},
-        {"sorting", [](CIniMemFile& file) { file.SortSections(); }, nullptr},
-        {"dumping",
-         [](CIniMemFile& file) {
+    constexpr std::string_view kOriginal = "[s]\na=1\nb=2\n[e]\n",
+                               kSaved = "[s]\r\na=1\r\nb=2\r\n\r\n[e]\r\n\r\n";
+    const std::pair<void (*)(CIniMemFile&), std::string_view> cases[] = {
+        {[](auto& file) { file.GetString("s", "a", ""); }, kOriginal},
+        {[](auto& file) { file.SortSections(); }, kOriginal},
+        {[](auto& file) {
              CMemFile out;
              file.GetMemFile(&out);
          },
-         nullptr},
-        {"no such section",
-         [](CIniMemFile& file) {
-             file.DeleteSection("x");
-             file.ClearSection("x");
-             file.DeleteKey("x", "a");
-         },
-         nullptr},
-        {"clearing an empty section", [](CIniMemFile& file) { file.ClearSection("e"); }, nullptr},
-        {"clearing", [](CIniMemFile& file) { file.ClearSection("s"); }, "[s]\r\n\r\n[e]\r\n\r\n"},
-        {"deleting a section", [](CIniMemFile& file) { file.DeleteSection("s"); }, "[e]\r\n\r\n"},
-        {"deleting a key", [](CIniMemFile& file) { file.DeleteKey("s", "a"); },
-         "[s]\r\nb=2\r\n\r\n[e]\r\n\r\n"},
-        {"deleting no key", [](CIniMemFile& file) { file.DeleteKey("s", "x"); },
-         "[s]\r\na=1\r\nb=2\r\n\r\n[e]\r\n\r\n"},
-        {"the same value again", [](CIniMemFile& file) { file.WriteInt("s", "a", 1); },
-         "[s]\r\na=1\r\nb=2\r\n\r\n[e]\r\n\r\n"},
+         kOriginal},
+        {[](auto& file) { file.DeleteSection("x"), file.ClearSection("x"), file.DeleteKey("x", "a"); },
+         kOriginal},
+        {[](auto& file) { file.ClearSection("e"); }, kOriginal},
+        {[](auto& file) { file.ClearSection("s"); }, "[s]\r\n\r\n[e]\r\n\r\n"},
+        {[](auto& file) { file.DeleteSection("s"); }, "[e]\r\n\r\n"},
+        {[](auto& file) { file.DeleteKey("s", "a"); }, "[s]\r\nb=2\r\n\r\n[e]\r\n\r\n"},
+        {[](auto& file) { file.DeleteKey("s", "x"); }, kSaved},
+        {[](auto& file) { file.WriteInt("s", "a", 1); }, kSaved},
     };
-    constexpr std::string_view kOriginal = "[s]\na=1\nb=2\n[e]\n";
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.name);
+    for (const auto& [change, after] : cases) {
         WriteBytes(path_, kOriginal);
         {
             CIniMemFile file(path_, 1);
-            each.change(file);
+            change(file);
         }
-        EXPECT_EQ(each.saved ? each.saved : kOriginal, ReadBytes(path_));
+        EXPECT_EQ(after, ReadBytes(path_));
     }
 }
 
@@ -242,17 +220,13 @@ TEST_F(IniMemFileTest, ASaveThatFailsKeepsTheOldFileAndIsNotTriedAgain) {
 }
 
 TEST_F(IniMemFileTest, ASaveWithNoSectionRemovesTheFile) {
-    struct Case {
-        int keyOrder;
-        bool changed;
-        bool removed;
-    };
-    for (const Case& each : {Case{1, false, true}, {1, true, true}, {0, false, false}, {0, true, true}}) {
+    for (const auto& [keyOrder, changed, removed] :
+         {std::tuple(1, false, true), {1, true, true}, {0, false, false}, {0, true, true}}) {
         WriteBytes(path_, "; nothing\n");
-        CIniMemFile file(path_, each.keyOrder);
-        if (each.changed) file.DeleteAllSections();
+        CIniMemFile file(path_, keyOrder);
+        if (changed) file.DeleteAllSections();
         EXPECT_EQ(1, file.SaveIniFile());
-        EXPECT_EQ(each.removed, !OnDisk()) << each.keyOrder << each.changed;
+        EXPECT_EQ(removed, !OnDisk()) << keyOrder << changed;
     }
     CIniMemFile nowhere;
     nowhere.WriteInt("s", "a", 1);
@@ -318,21 +292,17 @@ TEST_F(IniMemFileTest, Enumerates) {
 }
 
 TEST_F(IniMemFileTest, SortsSectionsButKeepsALeadingVersion) {
-    struct Case {
-        std::string_view text;
-        std::vector<std::string> sorted;
-    };
-    const Case cases[] = {
+    const std::pair<std::string_view, std::vector<std::string>> cases[] = {
         {"[B]\n[Version]\n[A]", {"A", "B", "Version"}},
         {"[Version]\n[B]\n[A]", {"Version", "A", "B"}},
         {"[10]\n[9]\n[a]\n[\xB0\xA1]\n[Z]", {"10", "9", "Z", "a", "\xB0\xA1"}},
         {"", {}},
     };
-    for (const Case& each : cases) {
-        WriteBytes(path_, each.text);
+    for (const auto& [text, sorted] : cases) {
+        WriteBytes(path_, text);
         CIniMemFile file(path_, 1);
         file.SortSections();
-        EXPECT_EQ(each.sorted, Sections(file));
+        EXPECT_EQ(sorted, Sections(file));
     }
 }
 

@@ -24,21 +24,16 @@ TEST_F(ProfileTextTest, ReadsOneValue) {
     test::WriteBytes(file_,
                      "x=none\n;[A]\n [a ] \r\n;x=comment\r\n X = 1 = 2 \r\ny=\nnothing\n"
                      "[B]\nx=3\n[A]\nz=4\nlast=5");
-    const struct {
-        const char* section;
-        const char* key;
-        const char* value;
-    } cases[] = {{"A", "x", "1 = 2"},   {"a", "X", "1 = 2"},    {"A", "y", ""},
-                 {"b", "x", "3"},       {"A", "z", "default"},  {"A", "nothing", "default"},
-                 {"C", "x", "default"}, {"A", ";x", "default"}, {"", "x", "default"}};
-    for (const auto& c : cases) EXPECT_EQ(Read(c.section, c.key), c.value) << c.section << " " << c.key;
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"A", "x", "1 = 2"},   {"a", "X", "1 = 2"},    {"A", "y", ""},
+        {"b", "x", "3"},       {"A", "z", "default"},  {"A", "nothing", "default"},
+        {"C", "x", "default"}, {"A", ";x", "default"}, {"", "x", "default"}};
+    for (const auto& [section, key, value] : cases)
+        EXPECT_EQ(Read(section, key), value) << section << " " << key;
 }
 
 TEST_F(ProfileTextTest, WritesOneValueAndKeepsTheRest) {
-    const struct {
-        const char* before;
-        const char* after;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"", "[S]\r\nkey=v\r\n"},
         {"no end", "no end\r\n[S]\r\nkey=v\r\n"},
         {"; c\n[s]\nother = 1\nKEY = old\n\n[t]\nkey=t\n", "; c\n[s]\nother = 1\nkey=v\r\n\n[t]\nkey=t\n"},
@@ -46,10 +41,10 @@ TEST_F(ProfileTextTest, WritesOneValueAndKeepsTheRest) {
         {"[s]", "[s]\r\nkey=v\r\n"},
         {"[t]\nkey=1\n", "[t]\nkey=1\n[S]\r\nkey=v\r\n"},
     };
-    for (const auto& c : cases) {
-        test::WriteBytes(file_, c.before);
+    for (const auto& [before, after] : cases) {
+        test::WriteBytes(file_, before);
         EXPECT_TRUE(WriteProfileText(file_, "S", "key", "v"));
-        EXPECT_EQ(test::ReadBytes(file_), c.after) << c.before;
+        EXPECT_EQ(test::ReadBytes(file_), after) << before;
         EXPECT_EQ(Read("S", "key"), "v");
     }
 }

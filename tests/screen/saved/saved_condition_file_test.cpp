@@ -65,34 +65,22 @@ std::string NewSetBytes(const std::string& number) {
            "00=0101010008;B;1;0;40^1|60^20|30^0;\r\n\r\n"_cp949;
 }
 
-TEST_F(SavedConditionFileTest, ReadsSets) {
+TEST_F(SavedConditionFileTest, ReadsSetsAndWritesThemBack) {
     const SavedConditionFile loaded = Load(kUserFile);
     EXPECT_EQ(loaded.version, "012.345");
     ASSERT_EQ(loaded.sets.size(), 2u);
-    const CSavedIndexInfo& info = *loaded.sets[0];
-    EXPECT_EQ(info.m_strKey, "03");
-    EXPECT_EQ(ToUtf8(info.Name), "골든크로스");
-    EXPECT_EQ(info.m_bVendorSet, 0);
-    EXPECT_EQ(info.TypePosition, 0);
-    EXPECT_EQ(info.Portfolio, 3);
-    EXPECT_EQ(info.Acc, "12345678901");
-    EXPECT_EQ(info.Group, (std::vector<std::string>{"0AL", "  7"}));
-    EXPECT_EQ(info.Except1 + info.Except10, 2);
-    EXPECT_EQ(info.Except7, 0);
-    EXPECT_EQ(info.Month, 12);
-    EXPECT_EQ(info.Exp, "A&(B|!D)");
-    EXPECT_EQ(info.Count, 2);
-    ASSERT_EQ(info.m_Conditions.size(), 2u);
-    const CIndexInfo& second = *info.m_Conditions[1];
-    EXPECT_EQ(second.m_chLetter, 'D');
-    EXPECT_EQ(second.m_bChecked, 0);
-    EXPECT_EQ(second.m_bShowValue, 1);
-    EXPECT_EQ(second.GetValueText(), "10^1|61^3|30^0");
-    EXPECT_EQ(second.m_RoleValues.at(61), "3");
-
-    EXPECT_EQ(loaded.sets[1]->TypePosition, 1);
-    EXPECT_EQ(loaded.sets[1]->Portfolio, 0);
-    EXPECT_EQ(loaded.sets[1]->Count, 0);
+    EXPECT_EQ(loaded.sets[0]->m_bVendorSet, 0);
+    EXPECT_EQ(loaded.sets[0]->m_Conditions.at(1)->m_RoleValues.at(61), "3");
+    for (const auto& set : loaded.sets) ASSERT_TRUE(WriteCondition(*set, false, file_, loaded.version));
+    EXPECT_EQ(OnDisk(),
+              "[Version]\r\nver=012.345\r\n\r\n"
+              "[03]\r\nName=골든크로스\r\nTypePosition=0\r\nUpjong=0\r\nPortfolio=3\r\nRecommend=0\r\n"
+              "Acc=12345678901\r\nGroup=0AL|  7|\r\nExcept1=1\r\nExcept2=0\r\nExcept3=0\r\nExcept4=0\r\n"
+              "Except5=0\r\nExcept6=0\r\nExcept7=0\r\nExcept10=1\r\nMonth=12\r\nExp=A&(B|!D)\r\nCount=2\r\n"
+              "00=0101010008;A;1;0;40^2|60^5|30^1;\r\n01=0401020008;D;0;1;10^1|61^3|30^0;\r\n\r\n"
+              "[04]\r\nName=빈조건\r\nTypePosition=1\r\nUpjong=0\r\nPortfolio=0\r\nRecommend=0\r\nAcc=\r\n"
+              "Group=\r\nExcept1=0\r\nExcept2=0\r\nExcept3=0\r\nExcept4=0\r\nExcept5=0\r\nExcept6=0\r\n"
+              "Except7=0\r\nExcept10=0\r\nMonth=0\r\nExp=\r\nCount=0\r\n\r\n"_cp949);
 }
 
 TEST_F(SavedConditionFileTest, DropsConditionsOnUnknownIndicators) {
@@ -118,21 +106,17 @@ TEST_F(SavedConditionFileTest, DropsConditionsOnUnknownIndicators) {
 }
 
 TEST_F(SavedConditionFileTest, FindsTheVersionInEitherForm) {
-    const struct {
-        const char* text;
-        const char* version;
-        std::size_t sets;
-    } cases[] = {
+    const std::tuple<const char*, const char*, std::size_t> cases[] = {
         {"", "000.000", 0},
         {"[Version]\nver=001.002\n", "001.002", 0},
         {"[ver]\nVersion=001.003\n[01]\nName=a\n", "001.003", 1},
         {"[other]\nver=1\n[01]\nName=a\n[01]\nName=b\n[Version]\nver=001.004\n", "001.004", 1},
     };
-    for (const auto& c : cases) {
-        const SavedConditionFile loaded = Load(c.text);
-        EXPECT_EQ(loaded.version, c.version) << c.text;
-        EXPECT_EQ(ReadVersion(file_), c.version) << c.text;
-        EXPECT_EQ(loaded.sets.size(), c.sets) << c.text;
+    for (const auto& [text, version, sets] : cases) {
+        const SavedConditionFile loaded = Load(text);
+        EXPECT_EQ(loaded.version, version) << text;
+        EXPECT_EQ(ReadVersion(file_), version) << text;
+        EXPECT_EQ(loaded.sets.size(), sets) << text;
     }
     EXPECT_EQ(LoadSavedConditions(folder_.Path() / "none", catalogue_).version, "000.000");
 }

@@ -31,24 +31,6 @@ protected:
     SavedConditions& saved_ = screen_.saved;
 };
 
-TEST_F(SavedConditionsTest, NextLetterFollowsTheHighestOfALoadedSet) {
-    const auto with = [](const std::string& letters) {
-        auto set = std::make_shared<CSavedIndexInfo>();
-        for (const char letter : letters) {
-            set->m_Conditions.push_back(std::make_unique<CIndexInfo>());
-            set->m_Conditions.back()->m_chLetter = letter;
-        }
-        return set;
-    };
-    for (const auto& [letters, next] : {std::pair("CA", 'D'), {"", 'B'}, {"Z", '['}}) {
-        saved_.LoadCondition(with(letters));
-        EXPECT_EQ(next, screen_.editor.NextLetter()) << letters;
-    }
-    saved_.NewCondition();
-    EXPECT_EQ('A', screen_.editor.NextLetter());
-    EXPECT_EQ(1, screen_.tree.cleared);
-}
-
 TEST_F(SavedConditionsTest, AFirmsSetIsNeverTheCurrentOneAndSettingsSayWhatALoadDoes) {
     Load(1);
     EXPECT_EQ("01", Number());
@@ -100,15 +82,6 @@ TEST_F(SavedConditionsTest, ChangesAreOnlyLostWhenTheUserSaysSoOrTheirSaveIsOnIt
     saved_.NewCondition();
     EXPECT_EQ(screen_.conditions.rows.size(), 0u);
     EXPECT_EQ(screen_.questions.boxes.size(), boxes) << "the user doesn't want to be asked";
-}
-
-TEST_F(SavedConditionsTest, SetsThatMoveWhileAQuestionStandsAreNotLoaded) {
-    Load(0);
-    screen_.editor.SetDirty(true);
-    screen_.questions.answers = {Answer::No};
-    screen_.questions.onAsk = [&] { screen_.Reply("VE"); };  // the tree has new records now
-    Load(1);
-    EXPECT_EQ("00", Number());
 }
 
 // The checks of each command in their order, each told under its own caption.
@@ -227,14 +200,7 @@ TEST_F(SavedConditionsTest, ANewSetGetsItsNumberFromTheServer) {
 }
 
 TEST_F(SavedConditionsTest, AFailedSaveLeavesNoCurrentSetAndOffersADownloadWhenVersionsDiffer) {
-    struct Case {
-        bool asNew;
-        const char* version;
-        const char* box;
-        const char* name;  // the label afterwards
-        char sent;         // the last payload, after Yes
-    };
-    const Case cases[] = {
+    const std::tuple<bool, const char*, const char*, const char*, char> cases[] = {
         {true, "000.001", "조건 저장에 실패하였습니다.", "", 'A'},
         {false, "000.001", "조건 저장에 실패하였습니다.", "set1", 'E'},
         {true, "000.044",
@@ -244,19 +210,19 @@ TEST_F(SavedConditionsTest, AFailedSaveLeavesNoCurrentSetAndOffersADownloadWhenV
          "", 'V'},
     };
     const std::string before = screen_.OnDisk();
-    for (const Case& c : cases) {
+    for (const auto& [asNew, version, box, name, sent] : cases) {
         screen_.dialogs.name = "n";
-        c.asNew ? screen_.ShowNew() : Load(1);
+        asNew ? screen_.ShowNew() : Load(1);
         screen_.Edit("A or A");
         saved_.SaveCommand();
         screen_.questions.answers = {Answer::Yes};
-        screen_.Answer(c.asNew ? 'A' : 'E', false, "  ", c.version);
-        EXPECT_EQ(screen_.LastBox(), c.box);
+        screen_.Answer(asNew ? 'A' : 'E', false, "  ", version);
+        EXPECT_EQ(screen_.LastBox(), box);
         EXPECT_EQ("none", Number());
         EXPECT_FALSE(screen_.view.commandsEnabled);
-        EXPECT_EQ(screen_.view.name, c.name);
+        EXPECT_EQ(screen_.view.name, name);
         EXPECT_TRUE(screen_.editor.Dirty());
-        EXPECT_EQ(screen_.LastPayload()[0], c.sent);
+        EXPECT_EQ(screen_.LastPayload()[0], sent);
         screen_.editor.SetDirty(false);
     }
     EXPECT_EQ(screen_.LastPayload(), "V0trader  00000.001") << "the old version makes the server send all";

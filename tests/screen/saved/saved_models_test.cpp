@@ -14,11 +14,7 @@ TEST(SavedName, IsRefusedWithItsReason) {
     const std::string eighty = std::string(80, 'n');
     std::string korean;
     for (int i = 0; i < 40; ++i) korean += "가";
-    const struct {
-        std::string typed;
-        std::string name;  // empty: refused
-        const char* refusal;
-    } cases[] = {
+    const std::tuple<std::string, std::string, const char*> cases[] = {
         {"  새 이름 \t", "새 이름", ""},
         {"", "", "새 조건명을 입력하세요."},
         {"   ", "", "새 조건명을 입력하세요."},
@@ -31,24 +27,16 @@ TEST(SavedName, IsRefusedWithItsReason) {
         {"별☃", "", "조건명에 쓸 수 없는 문자가 있습니다."},
         {"똠방각하 뷁", "똠방각하 뷁", ""},
     };
-    for (const auto& c : cases) {
-        const NameVerdict verdict = CheckSavedName(c.typed, used);
-        EXPECT_EQ(ToUtf8(verdict.name.value_or("")), c.name) << c.typed;
-        EXPECT_EQ(ToUtf8(verdict.refusal).substr(0, std::string_view(c.refusal).size()), c.refusal)
-            << c.typed;
+    for (const auto& [typed, name, refusal] : cases) {
+        const NameVerdict verdict = CheckSavedName(typed, used);
+        EXPECT_EQ(ToUtf8(verdict.name.value_or("")), name) << typed;
+        EXPECT_EQ(ToUtf8(verdict.refusal).substr(0, std::string_view(refusal).size()), refusal) << typed;
     }
 }
 
 TEST(ReorderListTest, MovesKeepEveryRow) {
     using Move = std::size_t (ReorderList::*)(std::size_t);
-    struct Case {
-        Move move;
-        std::size_t row;
-        std::vector<std::size_t> order;
-        std::size_t at;
-        bool changed;
-    };
-    const Case cases[] = {
+    const std::tuple<Move, std::size_t, std::vector<std::size_t>, std::size_t, bool> cases[] = {
         {&ReorderList::MoveUp, 2, {0, 2, 1, 3}, 1, true},
         {&ReorderList::MoveUp, 0, {0, 1, 2, 3}, 0, false},
         {&ReorderList::MoveDown, 1, {0, 2, 1, 3}, 2, true},
@@ -56,21 +44,19 @@ TEST(ReorderListTest, MovesKeepEveryRow) {
         {&ReorderList::MoveToTop, 2, {2, 0, 1, 3}, 0, true},
         {&ReorderList::MoveToBottom, 1, {0, 2, 3, 1}, 3, true},
     };
-    for (const Case& c : cases) {
+    for (const auto& [move, row, order, at, changed] : cases) {
         ReorderList list(4);
-        EXPECT_EQ((list.*c.move)(c.row), c.at);
-        EXPECT_EQ(list.Order(), c.order);
-        EXPECT_EQ(list.Changed(), c.changed);
+        EXPECT_EQ((list.*move)(row), at);
+        EXPECT_EQ(list.Order(), order);
+        EXPECT_EQ(list.Changed(), changed);
     }
-    const struct {
-        std::size_t row, before;
-        std::vector<std::size_t> order;
-    } drops[] = {{0, 3, {1, 2, 0, 3}}, {3, 0, {3, 0, 1, 2}}, {1, 1, {0, 1, 2, 3}}, {1, 2, {0, 1, 2, 3}}};
-    for (const auto& drop : drops) {
+    const std::tuple<std::size_t, std::size_t, std::vector<std::size_t>> drops[] = {
+        {0, 3, {1, 2, 0, 3}}, {3, 0, {3, 0, 1, 2}}, {1, 1, {0, 1, 2, 3}}, {1, 2, {0, 1, 2, 3}}};
+    for (const auto& [row, before, order] : drops) {
         ReorderList list(4);
-        list.MoveBefore(drop.row, drop.before);
-        EXPECT_EQ(list.Order(), drop.order) << drop.row << " before " << drop.before;
-        EXPECT_EQ(list.Changed(), drop.order != std::vector<std::size_t>({0, 1, 2, 3}));
+        list.MoveBefore(row, before);
+        EXPECT_EQ(list.Order(), order) << row << " before " << before;
+        EXPECT_EQ(list.Changed(), order != std::vector<std::size_t>({0, 1, 2, 3}));
     }
 }
 

@@ -39,18 +39,9 @@ TEST(Cp949Test, WhatHasNoFormIsReplacedOrRefused) {
 
 TEST(Cp949Test, CutsBetweenCharacters) {
     const std::string text = "a가b힣"_cp949;
-    const std::string_view expected[] = {"",
-                                         "a",
-                                         "a",
-                                         "a\xB0\xA1",
-                                         "a\xB0\xA1"
-                                         "b",
-                                         "a\xB0\xA1"
-                                         "b"};
-    for (std::size_t bytes = 0; bytes < std::size(expected); ++bytes) {
-        EXPECT_EQ(expected[bytes], CutToBytes(text, bytes)) << bytes;
-    }
-    EXPECT_EQ(text, CutToBytes(text, 6));
+    const std::size_t kept[] = {0, 1, 1, 3, 4, 4, 6, 6};
+    for (std::size_t bytes = 0; bytes < std::size(kept); ++bytes)
+        EXPECT_EQ(text.substr(0, kept[bytes]), CutToBytes(text, bytes)) << bytes;
     EXPECT_EQ("\xB0", CutToBytes("\xB0", 5));
 }
 

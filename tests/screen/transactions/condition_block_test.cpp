@@ -21,19 +21,15 @@ Roles AllRoles() {
 }
 
 TEST(ConditionBlock, RoleLayoutsByteForByte) {
-    struct Case {
-        const char* key;
-        std::string block;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::string> cases[] = {
         {"0102030008", Fields("T01G010203012|2 7  5 20120123 44 45 46abcdefg      100123456789     -3.5")},
         {"0401030008", Fields("B01G040103012|2 7  5 20120123abcd      100123456789     -3.5") + Blanks(12)},
         {"0605010008", Fields("P01G060501012|2 7") + Blanks(55)},
         {"0803010008", Fields("R01G080301012|a 100") + Blanks(53)},
     };
-    for (const Case& c : cases) {
-        ASSERT_EQ(c.block.size(), kConditionBlockSize) << c.key;
-        EXPECT_EQ(BuildConditionBlock(MakeCondition('G', c.key, 12, AllRoles())), c.block);
+    for (const auto& [key, block] : cases) {
+        ASSERT_EQ(block.size(), kConditionBlockSize) << key;
+        EXPECT_EQ(BuildConditionBlock(MakeCondition('G', key, 12, AllRoles())), block);
     }
 }
 
@@ -98,57 +94,6 @@ TEST(ConditionBlock, FilterNumberLosesTheOptionEvenUncounted) {
     AddSelector(condition, 3);
     condition.m_bHasSelector = 0;
     EXPECT_EQ(BuildConditionBlock(condition).substr(10, 3), "-02");
-}
-
-TEST(ConditionBlock, DecodingUndoesEncoding) {
-    const auto decoded = DecodeConditionBlock(
-        Fields("B11G040103012|2 7  5 20120123abcd      100123456789     -3.5") + Blanks(12));
-    ASSERT_TRUE(decoded);
-    EXPECT_EQ(decoded->family, 'B');
-    EXPECT_TRUE(decoded->showValue);
-    EXPECT_TRUE(decoded->inUse);
-    EXPECT_EQ(decoded->letter, 'G');
-    EXPECT_EQ(decoded->key, "040103");
-    EXPECT_EQ(decoded->number, 12);
-    EXPECT_EQ(decoded->mode, 0);
-    EXPECT_EQ(decoded->roles, (Roles{{20, "2"},
-                                     {30, "7"},
-                                     {40, "5"},
-                                     {41, "20"},
-                                     {42, "120"},
-                                     {43, "123"},
-                                     {50, "a"},
-                                     {51, "b"},
-                                     {52, "c"},
-                                     {53, "d"},
-                                     {60, "100"},
-                                     {61, "123456789"},
-                                     {62, "-3.5"}}));
-}
-
-TEST(ConditionBlock, DecodingFilterBlocks) {
-    struct Case {
-        const char* parameters;
-        int mode;
-        Roles roles;
-    };
-    const Case cases[] = {
-        {"11      500      900", 0, {{20, "1"}, {50, "1"}, {60, "500"}}},
-        {"12      900      500", 0, {{20, "1"}, {50, "2"}, {60, "500"}}},
-        {" 3      500      900", 1, {{60, "500"}, {61, "900"}}},
-        {" 4      500", 2, {{60, "500"}}},
-        {" 5               900", 3, {{61, "900"}}},
-        {"", 0, {}},
-    };
-    for (const Case& c : cases) {
-        std::string block = "F00A070101040" + std::string(c.parameters);
-        block.resize(kConditionBlockSize, ' ');
-        const auto decoded = DecodeConditionBlock(block);
-        ASSERT_TRUE(decoded) << c.parameters;
-        EXPECT_EQ(decoded->mode, c.mode) << c.parameters;
-        EXPECT_EQ(decoded->roles, c.roles) << c.parameters;
-        EXPECT_FALSE(decoded->inUse);
-    }
 }
 
 TEST(ConditionBlock, OtherLengthsAndFamilies) {

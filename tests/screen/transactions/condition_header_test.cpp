@@ -58,14 +58,7 @@ TEST(ConditionHeader, ByteForByteFromScreenAndFromSavedSet) {
 }
 
 TEST(ConditionHeader, NameAndNumberFollowTheCurrentSet) {
-    struct Case {
-        bool saved;
-        const char* label;
-        std::optional<std::string> nameOverride;
-        const char* number;
-        std::string name;
-    };
-    const Case cases[] = {
+    const std::tuple<bool, const char*, std::optional<std::string>, const char*, std::string> cases[] = {
         {true, "label", std::nullopt, "07", "kept"},       {true, "label", "given", "07", "given"},
         {false, "label", "given", "99", "label"},          {false, "", "given", "99", "given"},
         {false, "", std::nullopt, "99", "임시조건"_cp949},
@@ -73,14 +66,14 @@ TEST(ConditionHeader, NameAndNumberFollowTheCurrentSet) {
     CSavedIndexInfo saved;
     saved.m_strKey = "07";
     saved.Name = "kept";
-    for (const Case& c : cases) {
+    for (const auto& [isSaved, label, nameOverride, number, name] : cases) {
         HeaderSource source = HoldingsSource();
-        source.currentSaved = c.saved ? &saved : nullptr;
-        source.nameLabel = c.label;
-        const std::string header = BuildConditionHeader(source, "A", 1, c.nameOverride);
-        EXPECT_EQ(header.substr(8, 2), c.number);
-        EXPECT_EQ(header.substr(10, 80), LeftIn(c.name, 80));
-        EXPECT_EQ(SearchHandleOf(source.currentSaved), c.number);
+        source.currentSaved = isSaved ? &saved : nullptr;
+        source.nameLabel = label;
+        const std::string header = BuildConditionHeader(source, "A", 1, nameOverride);
+        EXPECT_EQ(header.substr(8, 2), number);
+        EXPECT_EQ(header.substr(10, 80), LeftIn(name, 80));
+        EXPECT_EQ(SearchHandleOf(source.currentSaved), number);
     }
 }
 
@@ -129,13 +122,8 @@ TEST(ConditionHeader, NothingLeavesItsField) {
 TEST(ConditionHeader, DecodingUndoesEncoding) {
     const auto header = DecodeConditionHeader(HoldingsHeader() + "blocks follow");
     ASSERT_TRUE(header);
-    EXPECT_EQ(header->userId, "trader1");
-    EXPECT_EQ(header->number, "07");
-    EXPECT_EQ(header->name, "강세"_cp949);
-    EXPECT_TRUE(header->buy);
+    EXPECT_EQ(EncodeConditionHeader(*header), HoldingsHeader());
     EXPECT_TRUE(header->target == HoldingsTarget());
-    EXPECT_EQ(header->exp, "A&B");
-    EXPECT_EQ(header->count, 2);
     EXPECT_FALSE(DecodeConditionHeader(HoldingsHeader().substr(0, 827)));
 
     std::string lying = HoldingsHeader();

@@ -1,11 +1,9 @@
 #include "screen/transactions/result_columns.h"
 
-#include <cstdio>
-#include <fstream>
-
 #include <gtest/gtest.h>
 
 #include "tests/screen/support/columns.h"
+#include "tests/screen/support/condition_files.h"
 
 namespace jogeon {
 namespace {
@@ -16,22 +14,13 @@ std::vector<std::string> Fids(const std::vector<ResultColumn*>& columns) {
     return fids;
 }
 
-class ColumnFile {
-public:
-    explicit ColumnFile(const std::string& text) { std::ofstream(path_, std::ios::binary) << text; }
-    ~ColumnFile() { std::filesystem::remove(path_); }
-    ColumnTables Load() const { return LoadColumnTable(path_); }
-
-private:
-    std::filesystem::path path_ =
-        std::filesystem::path(testing::TempDir()) / ("columns" + std::to_string(::getpid()) + ".dat");
-};
-
 TEST(LoadColumnTable, KeepsFileOrderAndReadsWidths) {
-    const ColumnFile file(
+    const test::TempFolder folder;
+    test::WriteText(
+        folder.Path() / "XcsFid.dat",
         "[Basic_Fid]\r\n9001=name;12\r\n4001= change ; 6\r\n3001=price\r\n2001=volume;-9\r\n4001=twice;7\r\n"
         "[Extend_Fid]\r\n5101=value A;8;\r\n");
-    const ColumnTables tables = file.Load();
+    const ColumnTables tables = LoadColumnTable(folder.Path() / "XcsFid.dat");
     EXPECT_EQ(Fids(tables.columns), (std::vector<std::string>{"9001", "4001", "3001", "2001"}));
     EXPECT_EQ(tables.columns[1]->gridColumn, 2);
     EXPECT_EQ(tables.columns[1]->selected, 1);

@@ -106,13 +106,7 @@ TEST(StoreRequest, ReordersListTheNumbers) {
 }
 
 TEST(StoreReply, ReadsBothLayoutsAndTrustsNoCutOne) {
-    struct Case {
-        const char* data;
-        bool success;
-        const char* number;
-        const char* version;  // empty: none
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, bool, const char*, const char*> cases[] = {
         {"A1         07000.002", true, "07", "000.002"},
         {"E          07000.002", true, "07", "000.002"},
         {"A0         07000.002", false, "", "000.002"},
@@ -126,11 +120,11 @@ TEST(StoreReply, ReadsBothLayoutsAndTrustsNoCutOne) {
         {"C1        000.00", false, "", ""},
         {"A1         071", false, "", ""},
     };
-    for (const Case& c : cases) {
-        const StoreReply reply = c.data[0] == 'C' ? ReadReorderReply(c.data) : ReadStoreReply(c.data);
-        EXPECT_EQ(reply.success, c.success) << c.data;
-        EXPECT_EQ(reply.number, c.number) << c.data;
-        EXPECT_EQ(reply.version.value_or(""), c.version) << c.data;
+    for (const auto& [data, success, number, version] : cases) {
+        const StoreReply reply = data[0] == 'C' ? ReadReorderReply(data) : ReadStoreReply(data);
+        EXPECT_EQ(reply.success, success) << data;
+        EXPECT_EQ(reply.number, number) << data;
+        EXPECT_EQ(reply.version.value_or(""), version) << data;
     }
 }
 

@@ -1,16 +1,13 @@
 #include "screen/transactions/stored_condition.h"
 
-#include <cstdlib>
-#include <random>
-
 #include <gtest/gtest.h>
 
-#include "screen/condition/token_list.h"
 #include "screen/text/cp949.h"
 #include "screen/transactions/condition_block.h"
 #include "screen/transactions/condition_header.h"
 #include "tests/screen/support/bytes.h"
 #include "tests/screen/support/condition_files.h"
+#include "tests/screen/support/random_conditions.h"
 
 namespace jogeon {
 namespace {
@@ -122,20 +119,16 @@ TEST_F(StoredConditionTest, FilterBlocksFollowTheirSubType) {
                          "2=30;1;20;;0;1;0;1\n3=40;1;50;;0;1;0;1;0;;;x|y;1|2\n4=30;1;60;;0;1;0;1\n"
                          "5=30;1;61;;0;1;0;1\n");
     catalogue_.Load(folder_.Path(), {});
-    const struct {
-        char subType;
-        const char* values;
-    } cases[] = {
+    const std::pair<char, const char*> cases[] = {
         {'1', "10^0|20^7|50^1|60^500|61^500"}, {'2', "10^0|20^7|50^2|60^900|61^900"},
         {'3', "10^1|20^7|50^|60^500|61^900"},  {'4', "10^2|20^7|50^|60^500|61^500"},
         {'5', "10^3|20^7|50^|60^900|61^900"},  {' ', "10^0|20^7|50^|60^7|61^7"},
     };
-    for (const auto& c : cases) {
-        const std::string block =
-            std::string("F01A0701010407") + c.subType + "      500      900" + Blanks(38);
+    for (const auto& [subType, values] : cases) {
+        const std::string block = std::string("F01A0701010407") + subType + "      500      900" + Blanks(38);
         const auto set = DecodeStoredCondition(Record("07", "01", block), catalogue_, length_);
-        ASSERT_TRUE(set) << c.subType;
-        EXPECT_EQ(set->m_Conditions[0]->GetValueText(), c.values) << c.subType;
+        ASSERT_TRUE(set) << subType;
+        EXPECT_EQ(set->m_Conditions[0]->GetValueText(), values) << subType;
     }
 }
 
@@ -156,94 +149,31 @@ TEST_F(StoredConditionTest, TwoIndicatorsShareAKeyOfSixCharacters) {
     EXPECT_EQ(key(plain), "0401030009") << "a catalogue with the second one only";
 }
 
-// --- random sets over the real catalogue
-
-class RandomSets {
-public:
-    RandomSets() {
-        const char* home = std::getenv("JOGEON_HOME_DATA");
-        catalogue.Load(std::filesystem::path(home ? home : "") / "System", {"001 sector", "102 other"});
-        for (const auto& index : catalogue.Indexes()) {
-            if (index->m_bLeaf) keys_.push_back(index->m_strKey);
-        }
-    }
-
-    const std::vector<std::string>& Keys() const { return keys_; }
-
-    // A condition with random values in all fields of its variant; `variant` counts from 0.
-    std::unique_ptr<CIndexInfo> Condition(const std::string& key, int variant) {
-        auto condition = catalogue.MakeCondition(key);
-        std::string text = "10^" + std::to_string(variant);
-        for (const auto& field : *condition->m_pFields) {
-            if (!field->m_bStored || field->m_nRole == kRoleSelector) continue;
-            // Two variants may give one role to fields of their own.
-            const CIndexField* selector = FindFieldByRole(*condition->m_pFields, kRoleSelector);
-            const auto active = [&] {
-                CIndexField chosen = *selector;
-                chosen.m_nSelected = variant;
-                return ActiveFieldIds(chosen).contains(field->m_nId);
-            };
-            if (selector && !active()) continue;
-            text += "|" + std::to_string(field->m_nRole) + "^" + Value(*field);
-        }
-        condition->SetValueText(text);
-        condition->m_bChecked = Pick(2);
-        condition->m_bShowValue = Pick(2);
-        condition->m_chLetter = static_cast<char>('A' + Pick(26));
-        return condition;
-    }
-
-    int Variants(const std::string& key) const {
-        const auto condition = catalogue.MakeCondition(key);
-        const CIndexField* selector = FindFieldByRole(*condition->m_pFields, kRoleSelector);
-        return selector ? CTokenList(selector->m_strVariantFields, '|').GetCount() : 1;
-    }
-
-    int Pick(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
-
-    Catalogue catalogue;
-
-private:
-    std::string Value(const CIndexField& field) {
-        const CTokenList codes(field.m_strCodes, '|');
-        if (codes.GetCount() > 0) return codes.GetToken(Pick(codes.GetCount()));
-        if (!field.m_bRange) return field.m_strValue;
-        const int least = static_cast<int>(field.m_dMin);
-        const int most = static_cast<int>(field.m_dMax);
-        return std::to_string(Pick(4) == 0 ? most : std::uniform_int_distribution<int>(least, most)(random_));
-    }
-
-    std::mt19937 random_{20250430};
-    std::vector<std::string> keys_;
-};
-
 TEST(StoredConditionRoundTrip, DecodingUndoesEncodingForEveryIndicatorVariantAndField) {
-    RandomSets sets;
-    ASSERT_GT(sets.Keys().size(), 40u) << "JOGEON_HOME_DATA must name the built home folder";
-    for (int round = 0; round < 20; ++round) {
-        for (const std::string& key : sets.Keys()) {
-            for (int variant = 0; variant < sets.Variants(key); ++variant) {
-                CSavedIndexInfo set;
-                set.m_strKey = "42";
-                set.Exp = "A";
-                set.m_Conditions.push_back(sets.Condition(key, variant));
-                set.m_Conditions.push_back(sets.Condition(sets.Keys()[round % sets.Keys().size()], 0));
-                set.Count = 2;
-                std::string record = BuildSavedConditionHeader(set, "trader");
-                for (const auto& condition : set.m_Conditions) record += BuildConditionBlock(*condition);
-                std::size_t length = 0;
-                const auto decoded = DecodeStoredCondition(record, sets.catalogue, length);
-                ASSERT_TRUE(decoded) << key;
-                for (std::size_t i = 0; i < 2; ++i) {
-                    const CIndexInfo& before = *set.m_Conditions[i];
-                    const CIndexInfo& after = *decoded->m_Conditions[i];
-                    EXPECT_EQ(before.m_strKey, after.m_strKey);
-                    EXPECT_EQ(before.GetValueText(), after.GetValueText()) << key;
-                    EXPECT_EQ(before.m_RoleValues, after.m_RoleValues) << key;
-                    EXPECT_EQ(before.GetEffectiveIndexNo(), after.GetEffectiveIndexNo()) << key;
-                    EXPECT_EQ(BuildConditionBlock(before), BuildConditionBlock(after)) << key;
-                }
-            }
+    test::RandomConditions random(20250430);
+    ASSERT_GT(random.Variants(), 40u);
+    while (random.Made() < 40 * random.Variants()) {
+        CSavedIndexInfo set;
+        set.m_strKey = "42";
+        set.Exp = "A";
+        set.Count = 2;
+        std::string record = BuildSavedConditionHeader(set, "trader");
+        for (const char letter : {'A', 'Z'}) {
+            set.m_Conditions.push_back(random.Make(letter));
+            record += BuildConditionBlock(*set.m_Conditions.back());
+        }
+        std::size_t length = 0;
+        const auto decoded = DecodeStoredCondition(record, random.catalogue, length);
+        ASSERT_TRUE(decoded);
+        for (std::size_t i = 0; i < 2; ++i) {
+            const CIndexInfo& before = *set.m_Conditions[i];
+            const CIndexInfo& after = *decoded->m_Conditions[i];
+            SCOPED_TRACE(before.m_strKey + " " + before.GetValueText());
+            ASSERT_EQ(before.m_strKey, after.m_strKey);
+            ASSERT_EQ(before.GetValueText(), after.GetValueText());
+            ASSERT_EQ(before.m_RoleValues, after.m_RoleValues);
+            ASSERT_EQ(before.GetEffectiveIndexNo(), after.GetEffectiveIndexNo());
+            ASSERT_EQ(BuildConditionBlock(before), BuildConditionBlock(after));
         }
     }
 }

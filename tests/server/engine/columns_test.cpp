@@ -61,12 +61,7 @@ TEST(ColumnsTest, CellsOfAStock) {
         const int stock = day.GetMarket().Find(code);
         return ToUtf8(FindColumn(fid)->text(day, static_cast<std::size_t>(stock)));
     };
-    struct Case {
-        const char* code;
-        const char* fid;
-        const char* expected;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"000020", "9002", "000020"}, {"000020", "9003", "20000"},  {"000020", "9004", "10"},
         {"000020", "9005", "0.05"},   {"000020", "9006", "300"},    {"000020", "9007", "6"},
         {"000020", "9008", "19995"},  {"000020", "9009", "20020"},  {"000020", "9010", "19970"},
@@ -77,7 +72,8 @@ TEST(ColumnsTest, CellsOfAStock) {
         {"100040", "9015", "6960"},   {"100040", "9016", "85"},     {"100040", "9017", ""},
         {"100060", "9011", ""},       {"100060", "9018", "코스닥"},
     };
-    for (const Case& c : cases) EXPECT_EQ(cell(c.code, c.fid), c.expected) << c.code << ' ' << c.fid;
+    for (const auto& [code, fid, expected] : cases)
+        EXPECT_EQ(cell(code, fid), expected) << code << ' ' << fid;
 }
 
 TEST(ColumnsTest, RatiosNeedAPositiveFigure) {

@@ -31,11 +31,7 @@ TEST(ExpressionTest, EvaluatesWithThreeValues) {
         {'B', VerdictOf("TFUTFUTFU")},
         {'C', VerdictOf("FFFFTTTTU")},
     };
-    struct Case {
-        const char* expression;
-        const char* expected;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"A", "TTTFFFUUU"},
         {"!A", "FFFTTTUUU"},
         {"!!A", "TTTFFFUUU"},
@@ -52,12 +48,12 @@ TEST(ExpressionTest, EvaluatesWithThreeValues) {
         {"((A))", "TTTFFFUUU"},
         {"A\n&\xb0\xa1 B\t", "TFUFFFUFU"},  // a line end, a Korean letter, a blank
     };
-    for (const Case& c : cases) {
-        const std::optional<Expression> parsed = Expression::Parse(c.expression);
-        ASSERT_TRUE(parsed) << c.expression;
+    for (const auto& [expression, expected] : cases) {
+        const std::optional<Expression> parsed = Expression::Parse(expression);
+        ASSERT_TRUE(parsed) << expression;
         const Truth result = parsed->Evaluate(verdicts);
-        EXPECT_EQ(TextOf(result), c.expected) << c.expression;
-        EXPECT_EQ(result.truth & result.known, result.truth) << c.expression;
+        EXPECT_EQ(TextOf(result), expected) << expression;
+        EXPECT_EQ(result.truth & result.known, result.truth) << expression;
     }
 }
 

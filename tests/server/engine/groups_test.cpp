@@ -17,11 +17,7 @@ std::string_view SectorName(std::string_view industry) {
 }
 
 TEST(SectorsTest, IndustryTextsFindTheirSector) {
-    struct Case {
-        const char* industry;
-        const char* sector;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"의약품 도매업", "유통"},  // a dealer, whatever he deals in
         {"자동차 판매업", "유통"},
         {"화학섬유 제조업", "섬유·의류"},
@@ -41,18 +37,7 @@ TEST(SectorsTest, IndustryTextsFindTheirSector) {
         {"어로 어업", "기타"},
         {"", "기타"},
     };
-    for (const Case& c : cases) EXPECT_EQ(SectorName(c.industry), c.sector) << c.industry;
-}
-
-TEST(MarketGroupsTest, IndicesTakeTheLargestOrdinaryStocks) {
-    const auto market = test::TestMarket();
-    const MarketGroups groups = BuildMarketGroups(*market);
-    ASSERT_EQ(groups.kospi200.size(), 1u);
-    EXPECT_EQ(groups.kospi200[0].name, "KOSPI200 1~50위");
-    EXPECT_EQ(test::CodesOf(*market, groups.kospi200[0].members), "000010 000020");
-    EXPECT_EQ(test::CodesOf(*market, groups.kostar.at(0).members), "100010 100020 100030 100040 100060");
-    EXPECT_EQ(groups.Find("112"), &groups.kosdaq.at(0));
-    EXPECT_EQ(groups.Find("001"), nullptr);
+    for (const auto& [industry, sector] : cases) EXPECT_EQ(SectorName(industry), sector) << industry;
 }
 
 TEST(MarketGroupsTest, EveryStockOfAnExchangeIsInOneOfItsSectors) {

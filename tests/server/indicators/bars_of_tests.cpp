@@ -18,18 +18,18 @@ std::vector<int> Weekdays(int count) {
     return dates;
 }
 
-void AddStock(market::MarketBuilder& builder, market::Instrument stock, const std::vector<plain::Bar>& bars,
+void AddStock(market::MarketBuilder& builder, market::Instrument stock, const std::vector<Bar>& bars,
               const std::vector<int>& dates) {
     const int number = builder.AddInstrument(std::move(stock));
     const std::size_t first = dates.size() - bars.size();
     for (std::size_t i = 0; i < bars.size(); ++i) {
-        const plain::Bar& bar = bars[i];
+        const Bar& bar = bars[i];
         if (bar.close != 0)
             builder.AddBar(number, dates[first + i], bar.open, bar.high, bar.low, bar.close, bar.volume);
     }
 }
 
-std::shared_ptr<const market::Market> MarketOf(const std::vector<plain::Bar>& bars) {
+std::shared_ptr<const market::Market> MarketOf(const std::vector<Bar>& bars) {
     market::MarketBuilder builder;
     market::Instrument stock;
     stock.code = "000010";
@@ -37,15 +37,15 @@ std::shared_ptr<const market::Market> MarketOf(const std::vector<plain::Bar>& ba
     return builder.Build();
 }
 
-std::vector<plain::Bar> Flat(const std::vector<double>& closes) {
-    std::vector<plain::Bar> bars;
+std::vector<Bar> Flat(const std::vector<double>& closes) {
+    std::vector<Bar> bars;
     bars.reserve(closes.size());
     for (double close : closes) bars.push_back({close, close, close, close, 100});
     return bars;
 }
 
-plain::Roles RolesOf(const std::string& values) {
-    plain::Roles roles;
+Roles RolesOf(const std::string& values) {
+    Roles roles;
     std::istringstream entries(values);
     for (std::string entry; std::getline(entries, entry, '|');) {
         const std::size_t mark = entry.find('^');

@@ -48,7 +48,7 @@ std::shared_ptr<const market::Market> SmallMarket() {
         set(Fundamental::DividendYield, 3 * one.roe);
         set(Fundamental::OperatingMargin, 4 * one.roe);
         set(Fundamental::SalesGrowth, 5 * one.roe);
-        std::vector<plain::Bar> bars = Flat({one.closeBefore, one.close});
+        std::vector<Bar> bars = Flat({one.closeBefore, one.close});
         bars[0].volume = one.volumeBefore;
         bars[1].volume = one.volume;
         AddStock(builder, stock, bars, Weekdays(2));

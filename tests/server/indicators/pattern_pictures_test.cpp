@@ -13,7 +13,7 @@ namespace jogeon::indicators {
 namespace {
 
 std::shared_ptr<const market::Market> Drawn(const patterns::Pattern& pattern) {
-    std::vector<plain::Bar> bars;
+    std::vector<Bar> bars;
     for (const auto& candle : pattern.candles)
         bars.push_back({candle.open, candle.high, candle.low, candle.close, 100});
     return MarketOf(bars);

@@ -25,17 +25,13 @@ TEST(Calendar, DayNumbersGoThereAndBack) {
 }
 
 TEST(Calendar, ReadsDatesInTheFormsOfTheSources) {
-    struct Case {
-        const char* text;
-        std::optional<int> date;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::optional<int>> cases[] = {
         {"2024-02-29", 20240229},     {"20240229", 20240229},       {"2024/02/29", 20240229},
         {"2024.02.29", 20240229},     {"2023-02-29", std::nullopt}, {"2024-13-01", std::nullopt},
         {"2024-00-10", std::nullopt}, {"2024-1-5", std::nullopt},   {"24-01-05", std::nullopt},
         {"2024-01/05", std::nullopt}, {"2024-+1-05", std::nullopt}, {"", std::nullopt},
         {"99999999", std::nullopt},   {"00010101", std::nullopt},   {"2024-01-051", std::nullopt}};
-    for (const Case& c : cases) EXPECT_EQ(ParseDate(c.text), c.date) << c.text;
+    for (const auto& [text, date] : cases) EXPECT_EQ(ParseDate(text), date) << text;
 }
 
 }  // namespace

@@ -58,18 +58,13 @@ TEST(EarlierMarket, IsTheMarketThatWasBuiltThen) {
 }
 
 TEST(EarlierMarket, OutlivesTheWholeAndCanBeCutAgain) {
-    std::shared_ptr<const Market> earlier = Winter(kLastDate).Build()->AsOf(20250115);
-    ExpectSameBars(*earlier, *Winter(20250115).Build());
+    const auto whole = Winter(kLastDate).Build();
+    EXPECT_EQ(whole->AsOf(20991231), whole);
+    const std::shared_ptr<const Market> earlier = Winter(kLastDate).Build()->AsOf(20250115);
     ExpectSameBars(*earlier->AsOf(20241220), *Winter(20241220).Build());
     EXPECT_EQ(earlier->AsOf(20250221)->LastDate(), earlier->LastDate()) << "later days are gone";
     EXPECT_EQ(earlier->AsOf(20241110), nullptr);
     EXPECT_EQ(earlier->Find("000030"), 2);
-}
-
-TEST(EarlierMarket, ADayAtOrBehindTheEndIsTheMarketItself) {
-    const auto whole = Winter(kLastDate).Build();
-    EXPECT_EQ(whole->AsOf(whole->LastDate()), whole);
-    EXPECT_EQ(whole->AsOf(20991231), whole);
 }
 
 TEST(EarlierMarket, ManyThreadsMayCutOneFile) {

@@ -14,50 +14,22 @@
 namespace jogeon::market {
 namespace {
 
-// The days of one stock that have a bar.
-struct History {
-    std::vector<int> days;
-    std::vector<Bar> bars;
-};
-
 const Market& Generated() {
     static const std::shared_ptr<const Market> market = GenerateMarket();
     return *market;
 }
 
-History HistoryOf(std::size_t stock) {
+// The bars of one stock and their days.
+std::vector<std::pair<int, Bar>> HistoryOf(std::size_t stock) {
     const Bars& days = Generated().BarsOf(Timeframe::Day);
-    History history;
+    std::vector<std::pair<int, Bar>> history;
     for (int day = 0; day < days.Count(); ++day) {
         const auto at = [&](PriceField field) { return days.Row(field, day)[stock]; };
         if (std::isnan(at(PriceField::Close))) continue;
-        history.days.push_back(day);
-        history.bars.push_back({at(PriceField::Open), at(PriceField::High), at(PriceField::Low),
-                                at(PriceField::Close), at(PriceField::Volume)});
+        history.emplace_back(day, Bar{at(PriceField::Open), at(PriceField::High), at(PriceField::Low),
+                                      at(PriceField::Close), at(PriceField::Volume)});
     }
     return history;
-}
-
-double Correlation(const std::vector<double>& a, const std::vector<double>& b) {
-    const auto mean = [](const std::vector<double>& v) {
-        double sum = 0;
-        for (const double x : v) sum += x;
-        return sum / static_cast<double>(v.size());
-    };
-    const double meanA = mean(a);
-    const double meanB = mean(b);
-    double ab = 0, aa = 0, bb = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        ab += (a[i] - meanA) * (b[i] - meanB);
-        aa += (a[i] - meanA) * (a[i] - meanA);
-        bb += (b[i] - meanB) * (b[i] - meanB);
-    }
-    return ab / std::sqrt(aa * bb);
-}
-
-// Of each value with the one before it.
-double SelfCorrelation(const std::vector<double>& values) {
-    return Correlation({values.begin(), values.end() - 1}, {values.begin() + 1, values.end()});
 }
 
 TEST(GeneratedMarket, IsTheSameEverywhere) {
@@ -130,12 +102,12 @@ TEST(GeneratedMarket, ObeysTicksAndLimits) {
     };
     int halted = 0, atLimit = 0, gaps = 0, shortHistories = 0;
     for (std::size_t stock = 0; stock < Generated().Instruments().size(); ++stock) {
-        const History history = HistoryOf(stock);
+        const auto history = HistoryOf(stock);
         const std::string& code = Generated().Instruments()[stock].code;
-        ASSERT_FALSE(history.bars.empty()) << code;
-        shortHistories += history.bars.size() < 60;
-        for (std::size_t i = 0; i < history.bars.size(); ++i) {
-            const Bar& bar = history.bars[i];
+        ASSERT_FALSE(history.empty()) << code;
+        shortHistories += history.size() < 60;
+        for (std::size_t i = 0; i < history.size(); ++i) {
+            const auto& [day, bar] = history[i];
             ASSERT_TRUE(isPrice(bar.open) && isPrice(bar.high) && isPrice(bar.low) && isPrice(bar.close))
                 << code;
             ASSERT_TRUE(bar.low <= std::min(bar.open, bar.close) && bar.high >= std::max(bar.open, bar.close))
@@ -146,48 +118,17 @@ TEST(GeneratedMarket, ObeysTicksAndLimits) {
                 ++halted;
             }
             if (i == 0) continue;
-            const int before = static_cast<int>(history.bars[i - 1].close);
+            const int before = static_cast<int>(history[i - 1].second.close);
             ASSERT_LE(bar.high, before * 1.3) << code;
             ASSERT_GE(bar.low, before * 0.7) << code;
             atLimit += bar.close == UpperLimit(before);
-            gaps += history.days[i] != history.days[i - 1] + 1;
+            gaps += day != history[i - 1].first + 1;
         }
     }
     EXPECT_GT(halted, 1000);
     EXPECT_GT(atLimit, 100);
     EXPECT_GT(gaps, 10);
     EXPECT_GT(shortHistories, 15);
-}
-
-// What tells a market from noise: stocks move together, quiet and wild times last, and so do busy ones.
-TEST(GeneratedMarket, MovesLikeAMarket) {
-    std::vector<std::vector<double>> returns;
-    double clusters = 0, busyness = 0, sizeAndVolume = 0;
-    for (std::size_t stock = 0; stock < Generated().Instruments().size(); ++stock) {
-        const History history = HistoryOf(stock);
-        const bool traded =
-            std::all_of(history.bars.begin(), history.bars.end(), [](const Bar& b) { return b.volume > 0; });
-        if (history.bars.size() < 500 || !traded) continue;
-        std::vector<double> moves, sizes, volumes;
-        for (std::size_t i = 1; i < history.bars.size(); ++i) {
-            moves.push_back(history.bars[i].close / history.bars[i - 1].close - 1);
-            sizes.push_back(std::abs(moves.back()));
-            volumes.push_back(std::log(history.bars[i].volume));
-        }
-        clusters += SelfCorrelation(sizes);
-        busyness += SelfCorrelation(volumes);
-        sizeAndVolume += Correlation(sizes, volumes);
-        returns.push_back(std::move(moves));
-    }
-    const auto stocks = static_cast<double>(returns.size());
-    ASSERT_GT(stocks, 2000);
-    double together = 0;
-    for (std::size_t i = 1; i < returns.size(); ++i) together += Correlation(returns[i - 1], returns[i]);
-    EXPECT_GT(together / stocks, 0.08);
-    EXPECT_LT(together / stocks, 0.4);
-    EXPECT_GT(clusters / stocks, 0.08);
-    EXPECT_GT(busyness / stocks, 0.4);
-    EXPECT_GT(sizeAndVolume / stocks, 0.3);
 }
 
 }  // namespace

@@ -42,9 +42,7 @@ TEST(MarketBuilder, PutsStocksInOrderOfCodeAndBarsInOrderOfTime) {
 TEST(MarketBuilder, TheLastOfTwoBarsCountsAndIsReported) {
     MarketBuilder builder;
     const int a = builder.AddInstrument(Stock("000010"));
-    const int b = builder.AddInstrument(Stock("000020"));
     builder.AddBar(a, 20240304, 10, 10, 10, 10, 1);
-    builder.AddBar(b, 20240304, 20, 20, 20, 20, 2);
     builder.AddBar(a, 20240305, 11, 11, 11, 11, 3);
     builder.AddBar(a, 20240304, 12, 12, 12, 12, 4);
     EXPECT_EQ(BarText(*builder.Build(), Timeframe::Day, "000010", 0), "12 12 12 12 4");
@@ -110,59 +108,6 @@ TEST(MarketBuilder, FitsBarsOrSaysWhyNot) {
         EXPECT_THAT((std::vector{bar.open, bar.high, bar.low, bar.close, bar.volume}),
                     ElementsAre(c.fitted.open, c.fitted.high, c.fitted.low, c.fitted.close, c.fitted.volume));
     }
-}
-
-// Thursday 2024-02-29 to Friday 2024-03-08. The Friday of the first week is a holiday, so that the week ends
-// on the last day of February.
-class Periods : public testing::Test {
-protected:
-    Periods() {
-        const int full = builder_.AddInstrument(Stock("000010"));
-        builder_.AddBar(full, 20240229, 10, 15, 9, 12, 100);
-        builder_.AddBar(full, 20240304, 13, 14, 11, 14, 200);
-        builder_.AddBar(full, 20240305, 14, 20, 13, 15, 300);
-        builder_.AddBar(full, 20240308, 15, 16, 8, 9, 400);
-        const int gaps = builder_.AddInstrument(Stock("000020"));  // neither the first nor the last day
-        builder_.AddBar(gaps, 20240305, 50, 55, 45, 52, 10);
-        const int late = builder_.AddInstrument(Stock("000030"));  // listed on the last day, then halted
-        builder_.AddBar(late, 20240308, 0, 0, 0, 70, 0);
-        const int gone = builder_.AddInstrument(Stock("000040"));  // never heard of after February
-        builder_.AddBar(gone, 20240229, 5, 6, 4, 5, 1);
-    }
-
-    MarketBuilder builder_;
-};
-
-TEST_F(Periods, WeeksTakeInWhatIsKnown) {
-    const auto market = builder_.Build();
-    EXPECT_THAT(BarTexts(*market, Timeframe::Week, "000010"),
-                ElementsAre("20240229: 10 15 9 12 100", "20240308: 13 20 8 9 900"));
-    EXPECT_THAT(BarTexts(*market, Timeframe::Week, "000020"),
-                ElementsAre("20240229: -", "20240308: 50 55 45 52 10"));
-    EXPECT_THAT(BarTexts(*market, Timeframe::Week, "000030"),
-                ElementsAre("20240229: -", "20240308: 70 70 70 70 0"));
-    EXPECT_THAT(BarTexts(*market, Timeframe::Week, "000040"),
-                ElementsAre("20240229: 5 6 4 5 1", "20240308: -"));
-}
-
-TEST_F(Periods, MonthsTakeInWhatIsKnown) {
-    const auto market = builder_.Build();
-    EXPECT_THAT(BarTexts(*market, Timeframe::Month, "000010"),
-                ElementsAre("20240229: 10 15 9 12 100", "20240308: 13 20 8 9 900"));
-    builder_.AddBar(0, 20240329, 9, 30, 9, 25, 50);
-    EXPECT_THAT(BarTexts(*builder_.Build(), Timeframe::Month, "000010"),
-                ElementsAre("20240229: 10 15 9 12 100", "20240329: 13 30 8 25 950"));
-    EXPECT_THAT(BarTexts(*builder_.Build(), Timeframe::Month, "000020"),
-                ElementsAre("20240229: -", "20240329: 50 55 45 52 10"));
-}
-
-TEST_F(Periods, AsOfLeavesThemPartial) {
-    const auto market = builder_.Build()->AsOf(20240305);
-    ASSERT_TRUE(market);
-    EXPECT_EQ(market->LastDate(), 20240305);
-    EXPECT_THAT(BarTexts(*market, Timeframe::Week, "000010"),
-                ElementsAre("20240229: 10 15 9 12 100", "20240305: 13 20 11 15 500"));
-    EXPECT_THAT(BarTexts(*market, Timeframe::Month, "000030"), ElementsAre("20240229: -", "20240305: -"));
 }
 
 }  // namespace

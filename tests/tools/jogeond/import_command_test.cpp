@@ -1,15 +1,11 @@
 // Runs the program itself, as a user does.
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
+#include "tests/server/market/scratch_folder.h"
 #include "tests/tools/jogeond/run_jogeond.h"
 
 namespace jogeon {
@@ -28,27 +24,17 @@ Outcome RunImport(const std::string& arguments) {
 class ImportCommand : public testing::Test {
 protected:
     ImportCommand() {
-        std::filesystem::create_directories(folder_);
-        Write("bars.csv",
-              "date,code,open,high,low,close,volume\n"
-              "2024-03-04,000020,9350,9550,9330,9550,78661\n"
-              "2024-03-05,000020,9350,9550,9330,9550,78662\n"
-              "2024-03-05,000020,0,0,0,9550,0\n"
-              "2024-03-06,000020,1,2,3,4,5\n");
+        folder_.Write("bars.csv",
+                      "date,code,open,high,low,close,volume\n"
+                      "2024-03-04,000020,9350,9550,9330,9550,78661\n"
+                      "2024-03-05,000020,9350,9550,9330,9550,78662\n"
+                      "2024-03-05,000020,0,0,0,9550,0\n"
+                      "2024-03-06,000020,1,2,3,4,5\n");
     }
-    ~ImportCommand() override { std::filesystem::remove_all(folder_); }
 
     std::string At(const std::string& name) const { return (folder_ / name).string(); }
-    void Write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(folder_ / name) << bytes;
-    }
-    std::string Read(const std::string& name) const {
-        std::ifstream file(folder_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
 
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("jogeon-import-command-" + std::to_string(getpid()));
+    market::ScratchFolder folder_;
 };
 
 TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
@@ -67,7 +53,7 @@ TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
         {"--out " + At("no/folder/m") + " " + bars, "can't be written"},
         {"--out " + bars + " " + bars, "one of the files to read"},
     };
-    const std::string before = Read("bars.csv");
+    const std::string before = folder_.Read("bars.csv");
     for (const auto& [arguments, complaint] : cases) {
         const Outcome outcome = RunImport(arguments);
         EXPECT_EQ(outcome.code, 2) << arguments;
@@ -75,7 +61,7 @@ TEST_F(ImportCommand, WrongUseGetsOneLineAndNoFile) {
         EXPECT_THAT(outcome.out + outcome.err, HasSubstr(complaint)) << arguments;
         EXPECT_FALSE(std::filesystem::exists(At("m"))) << arguments;
     }
-    EXPECT_EQ(Read("bars.csv"), before);
+    EXPECT_EQ(folder_.Read("bars.csv"), before);
 }
 
 TEST_F(ImportCommand, SaysWhatItDidAndWhatItLeftOut) {
@@ -86,27 +72,26 @@ TEST_F(ImportCommand, SaysWhatItDidAndWhatItLeftOut) {
                       HasSubstr(At("m") + ": 2 bars of 1 stocks on 2 trading days, 20240304 to 20240305\n"),
                       HasSubstr("  1 lines rejected\n"), HasSubstr("  1 halted days\n"),
                       HasSubstr("given more than once, the last one counts: 000020 on 20240305\n")));
-    EXPECT_THAT(Read("m"), StartsWith("JOGEONM\n"));
+    EXPECT_THAT(folder_.Read("m"), StartsWith("JOGEONM\n"));
     EXPECT_EQ(RunImport("--help").code, 0);
 }
 
 TEST_F(ImportCommand, FailureLeavesTheOldFileAndNothingElse) {
-    Write("m", "what was there");
+    folder_.Write("m", "what was there");
     const Outcome outcome = RunImport("--max-rejects 0 --out " + At("m") + " " + At("bars.csv"));
     EXPECT_EQ(outcome.code, 2);
     EXPECT_THAT(outcome.out + outcome.err, HasSubstr("more than 0 lines were rejected; nothing was written"));
-    EXPECT_EQ(Read("m"), "what was there");
-    const std::filesystem::directory_iterator files(folder_);
-    EXPECT_EQ(std::count_if(begin(files), end(files), [](const auto&) { return true; }), 2);
+    EXPECT_EQ(folder_.Read("m"), "what was there");
+    EXPECT_EQ(folder_.Names().size(), 2u);
 }
 
 TEST_F(ImportCommand, VerifyTellsAWholeFileFromADamagedOne) {
     ASSERT_EQ(RunImport("--out " + At("m") + " " + At("bars.csv")).code, 0);
     EXPECT_EQ(test::RunJogeond("verify " + At("m")).code, 0);
 
-    std::string bytes = Read("m");
+    std::string bytes = folder_.Read("m");
     bytes[bytes.size() - 64] ^= 1;  // the only stock's value in the last row, before its padding
-    Write("m", bytes);
+    folder_.Write("m", bytes);
     const Outcome damaged = test::RunJogeond("verify " + At("m"));
     EXPECT_EQ(damaged.code, 2);
     EXPECT_THAT(damaged.err, StartsWith("jogeond verify: "));

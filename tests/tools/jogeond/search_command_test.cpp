@@ -2,37 +2,35 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "screen/text/cp949.h"
+#include "tests/server/market/scratch_folder.h"
 #include "tests/tools/jogeond/run_jogeond.h"
 
 namespace jogeon {
 namespace {
 
 using test::Outcome;
-using test::ReadAll;
 
 // A folder with a market of three stocks, which the test goes about in.
 class SearchCommandTest : public testing::Test {
 protected:
     void SetUp() override {
-        std::filesystem::create_directories(folder_);
-        std::ofstream(folder_ / "bars.csv") << "date,code,open,high,low,close,volume\n"
-                                               "2026-03-05,000010,1000,1000,1000,1000,7\n"
-                                               "2026-03-05,000020,2000,2000,2000,2000,7\n"
-                                               "2026-03-06,000010,3000,3000,3000,3000,1234567\n"
-                                               "2026-03-06,000020,2100,2100,2100,2100,7\n"
-                                               "2026-03-06,100010,500,500,500,500,7\n";
-        std::ofstream(folder_ / "symbols.csv")
-            << "code,name,market,division,industry,settlement_month,listing_date,shares\n"
-               "000010,가나전자,KOSPI,,전자부품 제조업,12,2000-01-01,1000000\n"
-               "000020,\"다\"\"라,\"\"\",KOSPI,,은행,12,2000-01-01,1000000\n"
-               "100010,A&B,KOSDAQ,,,12,2000-01-01,\n";
+        folder_.Write("bars.csv",
+                      "date,code,open,high,low,close,volume\n"
+                      "2026-03-05,000010,1000,1000,1000,1000,7\n"
+                      "2026-03-05,000020,2000,2000,2000,2000,7\n"
+                      "2026-03-06,000010,3000,3000,3000,3000,1234567\n"
+                      "2026-03-06,000020,2100,2100,2100,2100,7\n"
+                      "2026-03-06,100010,500,500,500,500,7\n");
+        folder_.Write("symbols.csv",
+                      "code,name,market,division,industry,settlement_month,listing_date,shares\n"
+                      "000010,가나전자,KOSPI,,전자부품 제조업,12,2000-01-01,1000000\n"
+                      "000020,\"다\"\"라,\"\"\",KOSPI,,은행,12,2000-01-01,1000000\n"
+                      "100010,A&B,KOSDAQ,,,12,2000-01-01,\n");
         ASSERT_EQ(test::RunJogeond("import --out " + Path("market.jgm") + " --symbols " +
                                    Path("symbols.csv") + " " + Path("bars.csv"))
                       .code,
@@ -40,14 +38,12 @@ protected:
         WriteSet("set.dat", "A", "00=0401020008;A;1;1;30^0|60^1000|61^5000;\n");
     }
 
-    void TearDown() override { std::filesystem::remove_all(folder_); }
-
     std::string Path(const std::string& name) const { return (folder_ / name).string(); }
 
     void WriteSet(const std::string& name, const std::string& expression, const std::string& lines,
                   const std::string& more = "") {
-        std::ofstream(folder_ / name, std::ios::binary)
-            << "[01]\nName=" + ToCp949("시험") + "\n" + more + "Exp=" + expression + "\nCount=1\n" + lines;
+        folder_.Write(name, "[01]\nName=" + ToCp949("시험") + "\n" + more + "Exp=" + expression +
+                                "\nCount=1\n" + lines);
     }
 
     Outcome Search(const std::string& words) {
@@ -64,8 +60,7 @@ protected:
         return codes;
     }
 
-    const std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("jogeon-search-test-" + std::to_string(getpid()));
+    market::ScratchFolder folder_;
 };
 
 TEST_F(SearchCommandTest, TableStandsInLineWithKoreanText) {
@@ -109,7 +104,7 @@ TEST_F(SearchCommandTest, TargetOfTheFileCounts) {
     WriteSet("bank.dat", "A", "00=0401020008;A;1;0;30^0|60^0|61^5000;\n", "Upjong=1\nGroup=017|\n");
     EXPECT_EQ(CodesIn(Search("--format csv --conditions " + Path("bank.dat")).out), "000020");
     // The same behind a version, as the terminal's own files have it.
-    std::ofstream(folder_ / "versioned.dat") << "[Version]\nver=000.001\n" << ReadAll(folder_ / "bank.dat");
+    folder_.Write("versioned.dat", "[Version]\nver=000.001\n" + folder_.Read("bank.dat"));
     EXPECT_EQ(CodesIn(Search("--format csv --conditions " + Path("versioned.dat")).out), "000020");
 }
 
@@ -117,8 +112,7 @@ TEST_F(SearchCommandTest, SavedSetsAreFoundByNameAndNumber) {
     const std::filesystem::path home = folder_ / "home";
     std::filesystem::copy(std::getenv("JOGEON_HOME_DATA"), home, std::filesystem::copy_options::recursive);
     std::filesystem::create_directories(home / "User");
-    std::ofstream(home / "User" / "kim01_SaveIndex.dat") << "[Version]\nver=000.001\n"
-                                                         << ReadAll(folder_ / "set.dat");
+    folder_.Write("home/User/kim01_SaveIndex.dat", "[Version]\nver=000.001\n" + folder_.Read("set.dat"));
     const std::string where = " --user kim01 --home " + home.string() + " --format csv";
     EXPECT_EQ(CodesIn(Search("--set 시험" + where).out), "000010 000020");
     EXPECT_EQ(CodesIn(Search("--set 01" + where).out), "000010 000020");
@@ -142,11 +136,9 @@ TEST_F(SearchCommandTest, WrongUseAndFailuresGetOneLine) {
     WriteSet("range.dat", "A", "00=0401020008;A;1;0;30^0|60^8|61^7;\n");
     WriteSet("unchecked.dat", "A", "00=0401020008;A;0;0;30^0|60^7|61^8;\n");
     WriteSet("group.dat", "A", "00=0401020008;A;1;0;30^0|60^7|61^8;\n", "Upjong=1\nGroup=001|\n");
-    struct Case {
-        std::string words;
-        const char* expected;  // part of the one line
-    };
-    const Case cases[] = {
+    const std::string market = "search --market " + Path("market.jgm") + " ";
+    const std::string conditions = market + "--conditions " + Path("");
+    const std::pair<std::string, const char*> cases[] = {
         {"search", "say what to search for"},
         {"search --set a --conditions b", "say what to search for"},
         {"search --set", "--set needs a value"},
@@ -158,30 +150,25 @@ TEST_F(SearchCommandTest, WrongUseAndFailuresGetOneLine) {
         {"search --set a --user ../x", "--user needs"},
         {"search --set a --market " + Path("none"), "none"},
         {"search --set a --market " + Path("bars.csv"), "no market file"},
-        {"search --set a --market " + Path("market.jgm") + " --home " + Path(""), "XcsFid.dat"},
-        {"search --market " + Path("market.jgm") + " --date 2026-03-04 --set a", "no day as early"},
-        {"search --market " + Path("market.jgm") + " --set 골든크로스",
-         "close to it: 골든크로스와 거래량 증가"},
-        {"search --market " + Path("market.jgm") + " --set zzz", "no set \"zzz\" in "},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("none"), "no file with a set"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("unknown.dat"),
-         "1 of 1 conditions"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("letters.dat"),
-         "there is no condition B"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("grammar.dat"),
-         "the expression is wrong"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("range.dat"),
-         "can't be evaluated: 조건 A"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("unchecked.dat"), "is checked"},
-        {"search --market " + Path("market.jgm") + " --conditions " + Path("group.dat"), "no group \"001\""},
+        {market + "--set a --home " + Path(""), "XcsFid.dat"},
+        {market + "--date 2026-03-04 --set a", "no day as early"},
+        {market + "--set 골든크로스", "close to it: 골든크로스와 거래량 증가"},
+        {market + "--set zzz", "no set \"zzz\" in "},
+        {conditions + "none", "no file with a set"},
+        {conditions + "unknown.dat", "1 of 1 conditions"},
+        {conditions + "letters.dat", "there is no condition B"},
+        {conditions + "grammar.dat", "the expression is wrong"},
+        {conditions + "range.dat", "can't be evaluated: 조건 A"},
+        {conditions + "unchecked.dat", "is checked"},
+        {conditions + "group.dat", "no group \"001\""},
         {"nothing", "no command \"nothing\""},
     };
-    for (const Case& c : cases) {
-        const Outcome failed = test::RunJogeond(c.words);
-        EXPECT_EQ(failed.code, 2) << c.words;
-        EXPECT_EQ(failed.out, "") << c.words;
-        EXPECT_NE(failed.err.find(c.expected), std::string::npos) << c.words << ": " << failed.err;
-        EXPECT_EQ(failed.err.find('\n'), failed.err.size() - 1) << c.words << ": " << failed.err;
+    for (const auto& [words, expected] : cases) {
+        const Outcome failed = test::RunJogeond(words);
+        EXPECT_EQ(failed.code, 2) << words;
+        EXPECT_EQ(failed.out, "") << words;
+        EXPECT_NE(failed.err.find(expected), std::string::npos) << words << ": " << failed.err;
+        EXPECT_EQ(failed.err.find('\n'), failed.err.size() - 1) << words << ": " << failed.err;
     }
     EXPECT_EQ(test::RunJogeond("").code, 2);
     EXPECT_EQ(test::RunJogeond("search --help").code, 0);

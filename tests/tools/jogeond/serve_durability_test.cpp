@@ -4,7 +4,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
-#include <map>
+#include <memory>
 #include <random>
 #include <thread>
 
@@ -28,122 +28,80 @@ constexpr int kBlocks = 20;
 constexpr std::size_t kHeaderBytes = 828;
 constexpr std::size_t kSetBytes = kHeaderBytes + kBlocks * 71;
 constexpr std::size_t kListHead = 24;
-constexpr std::size_t kMostSets = 99;
-constexpr std::size_t kEnoughSets = 60;    // the next round begins with another user
+constexpr int kMostSets = 99;
 constexpr int kMostMicroseconds = 40'000;  // from the start of the saves to the kill
 
-// A set of twenty conditions, with its serial in its name and in every condition.
-std::string SetOf(int serial) {
+// The user's set of this number: twenty conditions, with the number in its name and in every condition.
+std::string SetOf(const std::string& user, int number) {
     std::string set = test::Header("A", Decimal(kBlocks));
-    test::Put(set, 10, "set " + Decimal(serial));
-    for (int i = 0; i < kBlocks; ++i)
-        set += test::PriceBlock(static_cast<char>('A' + i), Decimal(serial), Decimal(serial + i));
-    return set;
-}
-
-// The same as a list has it: with its owner and number.
-std::string ListedSet(int serial, const std::string& user, int number) {
-    std::string set = SetOf(serial);
     test::Put(set, 0, user);
     test::Put(set, 8, ZeroPadded(number, 2));
+    test::Put(set, 10, "set " + Decimal(number));
+    for (int i = 0; i < kBlocks; ++i)
+        set += test::PriceBlock(static_cast<char>('A' + i), Decimal(number), Decimal(number + i));
     return set;
 }
 
-struct Found {
-    std::string version;
-    std::vector<std::string> sets;
+struct Tally {
+    int saved = 0, cutShort = 0, lost = 0, torn = 0;
+    int landed = 0;  // saves without an answer that were there
 };
 
-// Saves one set after the other until the server is gone, and knows what it was answered. It goes on with
-// another user when one has all the sets that he may have.
+// A user who saves one set after the other until the server is gone, and knows what he was answered.
 class Saver {
 public:
-    explicit Saver(int id) : id_(id) {}
-
-    // Compares what the service has with what it answered. A save without an answer may be there or not.
-    void Check(RemoteService& service) {
-        const Found found = Download(service, User());
-        if (underWay_ && found.sets.size() == answered_.size() + 1) {
-            answered_.push_back(serial_);
-            ++landed;
-        }
-        underWay_ = false;
-        Compare(found, User(), answered_);
-        version_ = found.version;
-        if (answered_.size() > kEnoughSets) NextUser();
-    }
-
-    // The same for the users whom it has left behind.
-    void CheckPast(RemoteService& service) {
-        for (const auto& [user, serials] : past_) Compare(Download(service, user), user, serials);
-    }
+    explicit Saver(int number) : user_("s" + ZeroPadded(number, 6)) {}
 
     void SaveUntilTheEnd(RemoteService& service) {
-        while (answered_.size() < kMostSets) {
-            std::string set = SetOf(++serial_);
-            test::Put(set, 0, User());
+        for (std::string version = "000.000"; answered_ < kMostSets; ++answered_) {
             underWay_ = true;
-            const std::string reply = Ask(service, User(), "A" + version_ + set);
+            const std::string reply = Ask(service, "A" + version + SetOf(user_, answered_));
             if (reply.empty()) return;
             ASSERT_EQ(reply.substr(0, 2), "A1") << reply;
             underWay_ = false;
-            answered_.push_back(serial_);
-            version_ = reply.substr(13, 7);
-            ++saved;
+            version = reply.substr(13, 7);
         }
     }
 
-    bool UnderWay() const { return underWay_; }
-
-    int saved = 0, lost = 0, torn = 0;
-    int landed = 0;  // saves without an answer that were there
+    // Compares what the service has with what it answered. A save without an answer may be there or not.
+    void Check(RemoteService& service, Tally& tally) {
+        const std::vector<std::string> sets = Download(service, tally);
+        const int found = static_cast<int>(sets.size());
+        tally.saved += answered_;
+        tally.cutShort += underWay_;
+        if (underWay_ && found == answered_ + 1) ++answered_, ++tally.landed;
+        underWay_ = false;
+        tally.lost += std::max(answered_ - found, 0);
+        tally.torn += std::max(found - answered_, 0);  // never sent as a whole
+        for (int number = 0; number < std::min(found, answered_); ++number)
+            tally.torn += sets[static_cast<std::size_t>(number)] != SetOf(user_, number);
+    }
 
 private:
-    void Compare(const Found& found, const std::string& user, const std::vector<int>& serials) {
-        const std::size_t both = std::min(serials.size(), found.sets.size());
-        lost += static_cast<int>(serials.size() - both);
-        torn += static_cast<int>(found.sets.size() - both);  // never sent as a whole
-        for (std::size_t i = 0; i < both; ++i)
-            torn += found.sets[i] == ListedSet(serials[i], user, static_cast<int>(i)) ? 0 : 1;
-        torn += found.version == "000." + ZeroPadded(static_cast<int>(found.sets.size()), 3) ? 0 : 1;
+    std::string Ask(RemoteService& service, std::string payload) const {
+        return service.Handle({user_, 1, "pisodbop", 1, std::move(payload)});
     }
 
-    std::string User() const { return "s" + Decimal(id_) + "_" + ZeroPadded(users_, 5); }
-
-    void NextUser() {
-        past_.emplace(User(), std::move(answered_));
-        answered_.clear();
-        ++users_;
-        version_ = "000.000";
-    }
-
-    static std::string Ask(RemoteService& service, const std::string& user, std::string payload) {
-        return service.Handle({user, 1, "pisodbop", 1, std::move(payload)});
-    }
-
-    // A user's sets, packet by packet.
-    static Found Download(RemoteService& service, const std::string& user) {
-        Found found;
+    // The sets, packet by packet. Each made the version greater by one.
+    std::vector<std::string> Download(RemoteService& service, Tally& tally) const {
+        std::vector<std::string> sets;
         std::string step = "0", from = "00", version = "nothing";
         for (std::string more = "1"; more == "1"; step = "1") {
-            const std::string packet = Ask(service, user, "V" + step + user + from + version);
+            const std::string packet = Ask(service, "V" + step + user_ + " " + from + version);
             if (packet.substr(0, 2) != "VD") throw std::runtime_error("no list: " + packet.substr(0, 20));
             more = packet.substr(2, 1);
             from = packet.substr(11, 2);
-            found.version = version = packet.substr(13, 7);
+            version = packet.substr(13, 7);
             for (std::size_t at = kListHead; at < packet.size(); at += kSetBytes)
-                found.sets.push_back(packet.substr(at, kSetBytes));
+                sets.push_back(packet.substr(at, kSetBytes));
         }
-        return found;
+        tally.torn += version != "000." + ZeroPadded(static_cast<int>(sets.size()), 3);
+        return sets;
     }
 
-    const int id_;
-    int users_ = 0;
-    int serial_ = 0;
+    const std::string user_;
+    int answered_ = 0;
     bool underWay_ = false;
-    std::string version_ = "000.000";
-    std::vector<int> answered_;  // serials by number
-    std::map<std::string, std::vector<int>> past_;
 };
 
 int Rounds() {
@@ -161,49 +119,48 @@ protected:
                 folder_ / "errors.txt"};
     }
 
-    // Starts a server, checks what the last one left, saves until it is killed at a moment of chance.
+    // Starts a server, checks what the last one left, has three users save until it is killed at a moment of
+    // chance.
     void Round() {
         test::ServeProcess server = Start();
         RemoteService service(server.Address());
-        for (Saver& saver : savers_) saver.Check(service);
         std::vector<std::thread> threads;
-        for (Saver& saver : savers_) threads.emplace_back([&] { saver.SaveUntilTheEnd(service); });
+        for (std::size_t i = 0; i < 3; ++i) {
+            if (savers_.size() >= 3) savers_[savers_.size() - 3]->Check(service, tally_);
+            savers_.push_back(std::make_unique<Saver>(static_cast<int>(savers_.size())));
+        }
+        for (std::size_t i = savers_.size() - 3; i < savers_.size(); ++i)
+            threads.emplace_back([&, i] { savers_[i]->SaveUntilTheEnd(service); });
         std::this_thread::sleep_for(std::chrono::microseconds(random_() % kMostMicroseconds));
         server.End(SIGKILL);
         for (std::thread& thread : threads) thread.join();
-        for (const Saver& saver : savers_) cutShort_ += saver.UnderWay() ? 1 : 0;
     }
 
     void CheckAll() {
         const test::ServeProcess server = Start();
         RemoteService service(server.Address());
-        for (Saver& saver : savers_) saver.Check(service);
-        for (Saver& saver : savers_) saver.CheckPast(service);
-    }
-
-    int Sum(int Saver::*count) const {
-        int sum = 0;
-        for (const Saver& saver : savers_) sum += saver.*count;
-        return sum;
+        for (const auto& saver : savers_) saver->Check(service, last_);
     }
 
     market::ScratchFolder folder_;
     std::mt19937 random_{std::random_device{}()};
-    std::vector<Saver> savers_{Saver(1), Saver(2), Saver(3)};
-    int cutShort_ = 0;
+    std::vector<std::unique_ptr<Saver>> savers_;
+    Tally tally_;  // after each kill
+    Tally last_;   // of all users at the end
 };
 
 TEST_F(ServeDurabilityTest, KillsInTheMiddleOfSavesLoseAndTearNothing) {
     const int rounds = Rounds();
     for (int round = 0; round < rounds && !HasFailure(); ++round) ASSERT_NO_THROW(Round()) << round;
     ASSERT_NO_THROW(CheckAll());
-    std::cout << rounds << " kills: " << Sum(&Saver::saved) << " saves answered, " << cutShort_
-              << " cut short, of which " << Sum(&Saver::landed) << " had been stored; " << Sum(&Saver::lost)
-              << " lost, " << Sum(&Saver::torn) << " torn\n";
-    EXPECT_EQ(Sum(&Saver::lost), 0);
-    EXPECT_EQ(Sum(&Saver::torn), 0);
-    EXPECT_GT(cutShort_, rounds) << "most kills must come in the middle of saves";
-    EXPECT_GT(Sum(&Saver::saved), rounds);
+    const int cutShort = tally_.cutShort + last_.cutShort;
+    std::cout << rounds << " kills: " << last_.saved << " saves answered, " << cutShort
+              << " cut short, of which " << tally_.landed + last_.landed << " had been stored; "
+              << tally_.lost + last_.lost << " lost, " << tally_.torn + last_.torn << " torn\n";
+    EXPECT_EQ(tally_.lost + last_.lost, 0);
+    EXPECT_EQ(tally_.torn + last_.torn, 0);
+    EXPECT_GT(cutShort, rounds) << "most kills must come in the middle of saves";
+    EXPECT_GT(last_.saved, rounds);
 }
 
 }  // namespace

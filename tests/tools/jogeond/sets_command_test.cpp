@@ -1,16 +1,13 @@
 // Drives jogeond sets: the text form of condition sets, its way there and back, and what it refuses.
 
-#include <fstream>
-#include <random>
-
 #include <gtest/gtest.h>
 
-#include "screen/condition/catalogue.h"
-#include "screen/condition/token_list.h"
 #include "screen/text/bytes.h"
 #include "screen/text/cp949.h"
 #include "server/service/condition_set.h"
 #include "server/store/condition_store.h"
+#include "tests/screen/support/random_conditions.h"
+#include "tests/server/market/scratch_folder.h"
 #include "tests/server/service/requests.h"
 #include "tests/tools/jogeond/run_jogeond.h"
 
@@ -23,9 +20,6 @@ using test::Outcome;
 
 class SetsCommandTest : public testing::Test {
 protected:
-    void SetUp() override { std::filesystem::create_directories(folder_); }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
-
     std::string Path(const std::string& name) const { return (folder_ / name).string(); }
 
     // `words` without user and store, which are kim's in `store`.
@@ -34,7 +28,7 @@ protected:
     }
 
     Outcome Import(const std::string& text, const std::string& options = "") const {
-        std::ofstream(Path("in.txt"), std::ios::binary) << text;
+        folder_.Write("in.txt", text);
         return Run("import " + options + " " + Path("in.txt"));
     }
 
@@ -42,8 +36,7 @@ protected:
         return ConditionStore(Path(store)).ListAll("kim").sets;
     }
 
-    const std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("jogeon-sets-test-" + std::to_string(getpid()));
+    market::ScratchFolder folder_;
 };
 
 const std::string kHead =
@@ -99,56 +92,21 @@ TEST_F(SetsCommandTest, TextAndRecordSayTheSame) {
     EXPECT_EQ(Run("list").out, "kim: 1 sets, version 000.002\n03   가격 \"낮은\" \\것  (2)\n");
 }
 
-// Sets of random conditions over every indicator and variant, composed as the screen composes them.
+// Sets of random conditions, composed as the screen composes them.
 class RandomSets {
 public:
-    explicit RandomSets(unsigned seed) : random_(seed) {
-        catalogue_.Load(std::filesystem::path(std::getenv("JOGEON_HOME_DATA")) / "System", {});
-        for (const auto& index : catalogue_.Indexes()) {
-            if (!index->m_bLeaf) continue;
-            const auto condition = catalogue_.MakeCondition(index->m_strKey);
-            const CIndexField* selector = FindFieldByRole(*condition->m_pFields, kRoleSelector);
-            const int count = selector ? CTokenList(selector->m_strItems, '|').GetCount() : 1;
-            for (int variant = 0; variant < count; ++variant) variants_.emplace_back(index.get(), variant);
-        }
-    }
-
     // So many sets that every variant comes often.
     std::vector<StoredSet> Make() {
         std::vector<StoredSet> sets;
-        for (int number = 0; number < 99; number += 1 + Below(2)) sets.push_back({number, Record()});
+        for (int number = 0; number < 99; number += 1 + conditions.Below(2))
+            sets.push_back({number, Record()});
         return sets;
     }
 
-    std::size_t Variants() const { return variants_.size(); }
-    std::size_t Made() const { return made_; }
+    test::RandomConditions conditions{2026};
 
 private:
-    int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
-
-    std::string ValueOf(const CIndexField& field) {
-        const CTokenList codes(field.m_strCodes, '|');
-        if (codes.GetCount() > 0) return codes.GetToken(Below(codes.GetCount()));
-        if (Below(20) == 0) return "";
-        const int least = static_cast<int>(field.m_dMin);
-        const std::string whole = Decimal(least + Below(static_cast<int>(field.m_dMax) - least + 1));
-        const bool fraction = field.m_nRole >= 60 && whole.size() < 4 && Below(2);
-        return fraction && Atoi(whole) != static_cast<int>(field.m_dMax) ? whole + "." + Decimal(Below(9))
-                                                                         : whole;
-    }
-
-    std::string Block(char letter) {
-        const auto& [index, variant] = variants_[made_++ % variants_.size()];
-        const auto condition = catalogue_.MakeCondition(index->m_strKey);
-        if (CIndexField* selector = FindFieldByRole(*condition->m_pFields, kRoleSelector))
-            selector->m_nSelected = variant;
-        for (const auto& field : *condition->m_pFields) field->SetValue(ValueOf(*field));
-        condition->SetValueText(condition->GetValueText());
-        condition->m_chLetter = letter;
-        condition->m_bChecked = Below(2);
-        condition->m_bShowValue = Below(2);
-        return BuildConditionBlock(*condition);
-    }
+    int Below(int end) { return conditions.Below(end); }
 
     std::string Text(const std::vector<std::string>& pieces) {
         std::string text = "가"_cp949;
@@ -182,21 +140,16 @@ private:
         header.count = 1 + Below(20);
         std::string blocks;
         for (char letter = 'A'; letter < 'A' + header.count; ++letter) {
-            blocks += Block(letter);
+            blocks += BuildConditionBlock(*conditions.Make(letter));
             if (letter != 'A') header.exp += Below(2) ? '&' : '|';
             header.exp += Below(2) ? std::string(1, letter) : std::string("!(") + letter + ")";
         }
         return EncodeConditionHeader(header) + blocks;
     }
-
-    Catalogue catalogue_;
-    std::vector<std::pair<const CIndexInfo*, int>> variants_;
-    std::size_t made_ = 0;
-    std::mt19937 random_;
 };
 
 TEST_F(SetsCommandTest, EverySetComesBackByteForByte) {
-    RandomSets random(2026);
+    RandomSets random;
     for (int round = 0; round < 3; ++round) {
         const std::vector<StoredSet> sets = random.Make();
         for (const StoredSet& set : sets)
@@ -210,19 +163,16 @@ TEST_F(SetsCommandTest, EverySetComesBackByteForByte) {
         ASSERT_EQ(imported.code, 0) << imported.err;
         ASSERT_EQ(Stored("to.sqlite"), sets);
         Run("export " + Path("b.txt"), "to.sqlite");
-        EXPECT_EQ(test::ReadAll(Path("a.txt")), test::ReadAll(Path("b.txt")));
+        EXPECT_EQ(folder_.Read("a.txt"), folder_.Read("b.txt"));
     }
-    EXPECT_GT(random.Made(), 4 * random.Variants()) << "every variant came several times";
+    EXPECT_GT(random.conditions.Made(), 4 * random.conditions.Variants())
+        << "every variant came several times";
 }
 
 TEST_F(SetsCommandTest, FaultsAreToldWithFileLineAndReason) {
     ASSERT_EQ(Import(kHead + kSet).code, 0);
     const std::vector<StoredSet> before = Stored();
-    struct Case {
-        std::string from, to;  // replaced in the text; nothing to replace: put behind it
-        std::string told;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
         {"form = 1", "form = 2", ":3: form 2 is unknown"},
         {"form = 1\n", "", ":4: \"form = 1\" must stand before"},
         {"[03]", "[99]", ":5: \"99\" is no number from 0 to 98"},
@@ -259,17 +209,16 @@ TEST_F(SetsCommandTest, FaultsAreToldWithFileLineAndReason) {
         {"주기=주", "주기=년", ":15: 주기 is one of 일, 주, 월"},
         {"", "C 주가 범위\n", ":16: this line has no ="},
     };
-    for (const Case& c : cases) {
+    for (const auto& [from, to, told] : cases) {
         std::string text = kHead + kSet;
-        if (c.from.empty())
-            text += c.to;
+        if (from.empty())
+            text += to;
         else
-            text.replace(text.find(c.from), c.from.size(), c.to);
+            text.replace(text.find(from), from.size(), to);
         const Outcome outcome = Import(text, "--replace");
-        EXPECT_EQ(outcome.code, 2) << c.told;
-        const std::string place = c.told[0] == ':' ? Path("in.txt") + c.told : c.told;
-        EXPECT_NE(outcome.err.find(place), std::string::npos)
-            << "wanted " << c.told << " got " << outcome.err;
+        EXPECT_EQ(outcome.code, 2) << told;
+        const std::string place = told[0] == ':' ? Path("in.txt") + told : told;
+        EXPECT_NE(outcome.err.find(place), std::string::npos) << "wanted " << told << " got " << outcome.err;
     }
     EXPECT_EQ(Stored(), before);
     EXPECT_EQ(Import("").err, "jogeond sets: " + Path("in.txt") +
