@@ -90,7 +90,8 @@ bool HostFrame::event(QEvent* event) {
         if (module_ && event->type() == QEvent::ParentChange) {
             host::SendMessage(ScreenHandle(), host::kHostChanged, 0, handle_);
         }
-        if (module_ && event->type() == QEvent::ApplicationPaletteChange) module_->SetColorChange(screen_);
+        // The application's own event reaches windows only, and not the frame in one.
+        if (module_ && event->type() == QEvent::PaletteChange) module_->SetColorChange(screen_);
         return QWidget::event(event);
     }
     OnMessage(*message);

@@ -23,6 +23,9 @@ constexpr KeyRow kTerminal[] = {
 
 constexpr KeyRow kScreen[] = {
     {"F5, Shift+F5", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "검색, 다음 페이지")},
+    {"F6, F7", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "실시간 검색, 차트")},
+    {"Ctrl+D, Ctrl+L, Ctrl+E",
+     QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "관심저장, 종목목록, 결과를 엑셀 파일로")},
     {"Ctrl+N, Ctrl+S", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "새 조건, 저장")},
     {"Ctrl+Shift+S, F2", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다른 이름으로 저장, 이름 바꾸기")},
     {"Ctrl+T", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "대상변경")},

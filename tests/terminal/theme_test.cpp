@@ -66,7 +66,9 @@ TEST_F(ThemeTest, ASwitchReachesModuleAndOwnScreensAtOnceAndIsKept) {
     Action("dark").trigger();
     QApplication::processEvents();
     EXPECT_EQ(Theme::Dark, ThemeOf(module.palette()));
-    EXPECT_TRUE(form.parentWidget()->styleSheet().contains(ToQColor(HostColors().GetColor(0, 0)).name()));
+    const QString back = ToQColor(HostColors().GetColor(0, 0)).name();
+    const QWidget& screen = *form.parentWidget();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.styleSheet().contains(back); }, kPatience));
     EXPECT_EQ(Screen("0615")->themeWindow, ToQColor(Color::ScreenBack)) << "told when its palette is there";
     EXPECT_NE(Window().palette().color(QPalette::Window), light);
 

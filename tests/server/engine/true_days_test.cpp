@@ -31,8 +31,8 @@ market::Instrument StockOf(int number, const std::vector<int>& dates, RandomNumb
 
 // Swings enough to make most conditions true now and then; some days and, for one stock in three, the first
 // ones are missing.
-std::vector<indicators::plain::Bar> WalkOf(int number, RandomNumbers& random) {
-    std::vector<indicators::plain::Bar> bars;
+std::vector<market::Bar> WalkOf(int number, RandomNumbers& random) {
+    std::vector<market::Bar> bars;
     double close = random.Between(50, 200);
     for (int day = 0; day < kDays; ++day) {
         const double open = std::max(20.0, close + random.Normal());

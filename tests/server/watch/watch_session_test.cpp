@@ -98,7 +98,7 @@ TEST_F(WatchSessionTest, VerdictIsThatOfASearchOnTheSameBarsThroughoutTheDay) {
     const int days = generated->BarsOf(market::Timeframe::Day).Count();
     const auto whole = test::Excerpt(*generated, days, 7).Build();
     const engine::MarketGroups groups = engine::BuildMarketGroups(*whole);
-    const auto user = std::make_shared<engine::UserGroups>(engine::ExampleGroups(*whole, "kim01"));
+    const auto user = std::make_shared<engine::UserGroups>();
     std::vector<std::unique_ptr<Watched>> watched;
     for (const NamedOrder& order : Orders())
         watched.push_back(std::make_unique<Watched>(order, whole, WatchGroups{groups, user}));

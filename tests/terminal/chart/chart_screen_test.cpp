@@ -328,6 +328,7 @@ TEST_F(ChartScreenTest, ServiceThatCantTellGivesACalmLine) {
     EXPECT_TRUE(screen.View().Shown().bars.empty());
     EXPECT_EQ(screen.View().accessibleDescription(), "지금은 차트를 불러올 수 없습니다");
     EXPECT_TRUE(questions_.boxes.empty());
+    workers_.waitForDone();  // the stocks for the box are still asked for
 }
 
 }  // namespace
