@@ -59,7 +59,7 @@ enum class Color {
     FBHeaderBack,  // of a grid whose owner has chosen none, as the lines below
     FBLine,
     HostGridLine,  // what the terminal's colour map gives for the lines of grids
-    WatchNew,  // a stock that has come to match a watched set just now
+    WatchNew,      // a stock that has come to match a watched set just now
     ChartBack,
     ChartGrid,
     ChartText,
