@@ -7,15 +7,13 @@
 
 #include "screen/text/cp949.h"
 #include "terminal/chart/kept_choice.h"
+#include "terminal/screens/stock_link.h"
 
 namespace jogeon::terminal {
 namespace {
 
 using chart::Choice;
 
-constexpr char kReturnKey[] = "ReturnMainKey";
-constexpr char kCodeTag[] = "JCODE";
-constexpr char kCodeTagToo[] = "J_ECODE";
 constexpr char kResultKey[] = "CS_RESULT";
 constexpr char kSetTag[] = "CONDSET";
 
@@ -60,7 +58,7 @@ void ChartScreen::OnOpened(bool linked) {
 
 // Another search's codes are published right behind its conditions: the marks wait until they are.
 void ChartScreen::OnTagChanged(const std::string& mainKey, const std::string& tag) {
-    if (mainKey == kReturnKey && tag == kCodeTag) FollowLink();
+    if (mainKey == kStockKey && tag == kStockTag) FollowLink();
     if (mainKey == kResultKey && tag == kSetTag)
         QMetaObject::invokeMethod(this, &ChartScreen::AskMarks, Qt::QueuedConnection);
 }
@@ -96,7 +94,7 @@ std::vector<std::string> ChartScreen::Listed() const {
 }
 
 void ChartScreen::FollowLink() {
-    const std::string code = TagOf(kReturnKey, kCodeTag);
+    const std::string code = TagOf(kStockKey, kStockTag);
     if (code.empty()) return;
     if (code == code_ && (loading_ || !view_->Shown().bars.empty()))
         AskMarks();
@@ -116,9 +114,8 @@ void ChartScreen::Step(int by) {
 }
 
 void ChartScreen::Announce() {
-    workplace_.links.NVLink_SetLinkTagData({kReturnKey, kCodeTag, code_});
-    workplace_.links.NVLink_SetLinkTagData({kReturnKey, kCodeTagToo, code_});
-    emit TagSet(kReturnKey, kCodeTag);
+    ShareStockCode(workplace_.links, code_);
+    emit TagSet(kStockKey, kStockTag);
 }
 
 void ChartScreen::Choose(const Choice& choice) {

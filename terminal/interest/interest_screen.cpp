@@ -6,13 +6,11 @@
 #include "screen/host/link_info_item.h"
 #include "terminal/interest/interest_look.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/screens/stock_link.h"
 
 namespace jogeon::terminal {
 namespace {
 
-constexpr char kMainKey[] = "ReturnMainKey";
-constexpr char kCodeTag[] = "JCODE";
-constexpr char kOtherCodeTag[] = "J_ECODE";
 constexpr char kChart[] = "0615";
 
 // Keys of the kept state.
@@ -102,8 +100,8 @@ void InterestScreen::OnFocusChanged(const QWidget* old, const QWidget* now) {
 }
 
 void InterestScreen::ShareStock(const std::string& code) {
-    for (const char* tag : {kCodeTag, kOtherCodeTag}) links_.NVLink_SetLinkTagData({kMainKey, tag, code});
-    emit TagSet(kMainKey, kCodeTag);
+    ShareStockCode(links_, code);
+    emit TagSet(kStockKey, kStockTag);
 }
 
 void InterestScreen::OpenChart(const std::string& code) {

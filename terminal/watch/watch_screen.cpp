@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "screen/transactions/condition_header.h"
+#include "terminal/screens/stock_link.h"
 #include "terminal/watch/watch_texts.h"
 
 namespace jogeon::terminal {
@@ -13,9 +14,6 @@ constexpr char kMainKey[] = "CS_REAL";
 constexpr char kSetTag[] = "REALINFO";
 constexpr char kDescriptionTag[] = "CONDMSG";
 
-constexpr char kStockKey[] = "ReturnMainKey";
-constexpr char kStockTag[] = "JCODE";
-constexpr char kStockTagToo[] = "J_ECODE";
 constexpr char kChart[] = "0615";
 
 constexpr int kMargin = 8;
@@ -183,8 +181,7 @@ void WatchScreen::ShowCounts() {
 }
 
 void WatchScreen::Announce(const std::string& code) {
-    workplace_.links.NVLink_SetLinkTagData({kStockKey, kStockTag, code});
-    workplace_.links.NVLink_SetLinkTagData({kStockKey, kStockTagToo, code});
+    ShareStockCode(workplace_.links, code);
     emit TagSet(kStockKey, kStockTag);
 }
 
