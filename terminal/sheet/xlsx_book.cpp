@@ -18,6 +18,12 @@ constexpr std::size_t kLongestText = 32767;  // characters that a cell may have
 constexpr std::size_t kNarrowest = 8, kWidest = 60;
 constexpr std::size_t kFilterButton = 3;  // stands beside a column's title
 
+std::string NumberCode(std::size_t decimals) {
+    std::string code = "#,##0";
+    if (decimals > 0) code.append(".").append(decimals, '0');
+    return code;
+}
+
 // The formats of a workbook's cells, which belong to it.
 class Formats {
 public:
@@ -34,7 +40,7 @@ public:
     lxw_format* Number(host::SheetFormat kind, std::size_t decimals) {
         if (kind == host::SheetFormat::Percent) return percent_;
         lxw_format*& format = numbers_[decimals];
-        if (!format) format = New("#,##0" + (decimals > 0 ? "." + std::string(decimals, '0') : ""));
+        if (!format) format = New(NumberCode(decimals));
         return format;
     }
 
