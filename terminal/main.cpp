@@ -1,11 +1,11 @@
 // The desktop terminal.
 #include <QApplication>
-#include <QFontDatabase>
 #include <QTimer>
 #include <cstdio>
 #include <exception>
 
 #include "terminal/demonstration.h"
+#include "terminal/look/application_look.h"
 #include "terminal/options.h"
 #include "terminal/screen_driver.h"
 #include "terminal/terminal.h"
@@ -15,16 +15,6 @@ namespace {
 using namespace jogeon::terminal;
 
 constexpr int kFailure = 2;
-constexpr int kFontPoints = 9;
-
-// A font that has Korean and reads well in small sizes, where the system has one.
-void ChooseFont() {
-    for (const char* family : {"Malgun Gothic", "Apple SD Gothic Neo", "NanumGothic", "Noto Sans CJK KR"}) {
-        if (!QFontDatabase::families().contains(family)) continue;
-        QApplication::setFont(QFont(family, kFontPoints));
-        return;
-    }
-}
 
 int Start(const Options& options) {
     Terminal terminal(options);
@@ -50,8 +40,7 @@ int main(int argc, char** argv) {
     const std::optional<Options> options = ReadArguments(argc, argv, &status);
     if (!options) return status;
     QApplication application(argc, argv);
-    QApplication::setStyle("Fusion");
-    ChooseFont();
+    SetApplicationLook();
     try {
         return Start(*options);
     } catch (const std::exception& error) {

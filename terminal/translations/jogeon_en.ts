@@ -392,7 +392,7 @@
         <translation>Change</translation>
     </message>
     <message>
-        <source>등락률(%)</source>
+        <source>등락률</source>
         <translation>Change %</translation>
     </message>
     <message>
@@ -569,7 +569,7 @@
         <translation>Market value</translation>
     </message>
     <message>
-        <source>수익률(%)</source>
+        <source>수익률</source>
         <translation>Return %</translation>
     </message>
     <message>
@@ -803,6 +803,54 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
     <message>
         <source>관심저장, 종목목록, 결과를 엑셀 파일로</source>
         <translation>Save to an interest group, stock list, results to Excel</translation>
+    </message>
+    <message>
+        <source>다른 종목으로, 다른 화면도 따라갑니다</source>
+        <translation>Another stock, which the other screens follow</translation>
+    </message>
+    <message>
+        <source>고른 행 복사</source>
+        <translation>Copy the selected rows</translation>
+    </message>
+    <message>
+        <source>행으로 할 수 있는 일</source>
+        <translation>What can be done with the rows</translation>
+    </message>
+    <message>
+        <source>확대, 축소</source>
+        <translation>Zoom in, zoom out</translation>
+    </message>
+    <message>
+        <source>봉을 옮겨 보기</source>
+        <translation>Move along the bars</translation>
+    </message>
+    <message>
+        <source>그룹 이름 바꾸기</source>
+        <translation>Rename the group</translation>
+    </message>
+    <message>
+        <source>종목 복사, 붙여넣기</source>
+        <translation>Copy, paste stocks</translation>
+    </message>
+    <message>
+        <source>그룹이나 종목 빼기</source>
+        <translation>Remove the group or the stocks</translation>
+    </message>
+    <message>
+        <source>종목의 차트</source>
+        <translation>Chart of the stock</translation>
+    </message>
+    <message>
+        <source>결과에서</source>
+        <translation>In the results</translation>
+    </message>
+    <message>
+        <source>차트에서</source>
+        <translation>In the chart</translation>
+    </message>
+    <message>
+        <source>관심종목 화면에서</source>
+        <translation>In the interest groups</translation>
     </message>
 </context>
 <context>
@@ -1191,9 +1239,6 @@ and press [실시간 검색] to watch it here.</translation>
         <source>다음 종목</source>
         <translation>Next stock</translation>
     </message>
-</context>
-<context>
-    <name>jogeon::terminal::chart::StockBox</name>
     <message>
         <source>그런 종목이 없습니다</source>
         <translation>No such stock</translation>

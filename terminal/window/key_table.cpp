@@ -46,6 +46,24 @@ constexpr KeyRow kConditions[] = {
     {"Enter", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "버튼 위에서: 누르기")},
 };
 
+constexpr KeyRow kResults[] = {
+    {"↑, ↓", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "다른 종목으로, 다른 화면도 따라갑니다")},
+    {"Ctrl+C", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "고른 행 복사")},
+    {"Shift+F10", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "행으로 할 수 있는 일")},
+};
+
+constexpr KeyRow kChart[] = {
+    {"+, -", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "확대, 축소")},
+    {"←, →, PgUp, PgDn, Home, End", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "봉을 옮겨 보기")},
+};
+
+constexpr KeyRow kInterest[] = {
+    {"F2", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "그룹 이름 바꾸기")},
+    {"Ctrl+C, Ctrl+V", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "종목 복사, 붙여넣기")},
+    {"Delete", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "그룹이나 종목 빼기")},
+    {"Enter", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "종목의 차트")},
+};
+
 constexpr KeyRow kTree[] = {
     {"Ctrl+F", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "찾기 칸으로")},
     {"Enter", QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "지표나 조건 열기, 묶음 접고 펴기")},
@@ -61,7 +79,10 @@ constexpr KeyGroup kGroups[] = {
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "터미널"), kTerminal},
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건검색 화면"), kScreen},
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "조건 목록에서"), kConditions},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "결과에서"), kResults},
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "왼쪽 창에서"), kTree},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "차트에서"), kChart},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "관심종목 화면에서"), kInterest},
 };
 
 QString Translated(const char* text) {

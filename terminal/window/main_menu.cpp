@@ -89,8 +89,8 @@ void MainMenu::BuildLanguages(QMenu& menu) {
 
 void MainMenu::BuildHelpMenu() {
     QMenu* help = window_.menuBar()->addMenu(tr("도움말(&H)"));
-    help->addAction(tr("조작 방법(&K)"), this, &MainMenu::KeysChosen);
-    help->addAction(tr("jogeon 정보(&A)"), this, &MainMenu::AboutChosen);
+    help->addAction(tr("조작 방법(&K)"), this, &MainMenu::KeysChosen)->setObjectName("showKeys");
+    help->addAction(tr("jogeon 정보(&A)"), this, &MainMenu::AboutChosen)->setObjectName("showAbout");
 }
 
 QAction* MainMenu::AddChoice(QMenu& menu, QActionGroup& group, const QString& text, const QString& name) {

@@ -1,8 +1,9 @@
 #include "terminal/window/status_line.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <QStyle>
+
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -24,19 +25,12 @@ protected:
     }
 };
 
-QString DateText(int date) {
-    return QStringLiteral("%1-%2-%3")
-        .arg(date / 10000)
-        .arg(date / 100 % 100, 2, 10, QLatin1Char('0'))
-        .arg(date % 100, 2, 10, QLatin1Char('0'));
-}
-
 }  // namespace
 
 QString MarketLine(const service::MarketSummary& market) {
     const QString source = market.generated ? StatusLine::tr("가상 시장 (생성된 데이터)")
                                             : QString::fromStdString(market.source);
-    return StatusLine::tr("%1  ·  %2종목").arg(source, QLocale(QLocale::Korean).toString(market.stocks));
+    return StatusLine::tr("%1  ·  %2종목").arg(source, CountText(market.stocks));
 }
 
 QString MarketDate(const service::MarketSummary& market) {
