@@ -13,7 +13,7 @@
 
 #include "screen/palette/colors_qt.h"
 #include "screen/results/result_grid_view.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace {
 
@@ -132,8 +132,8 @@ private:
     const GridColumn& Of(int column) const { return layout_[static_cast<std::size_t>(column)]; }
 
     QString TextOf(std::string_view raw, int column) {
-        if (column == 0) return QString::fromStdString(ToUtf8(names_.StockName(std::string(raw.substr(1)))));
-        return QString::fromStdString(ToUtf8(ShownText(Of(column).format, raw)));
+        if (column == 0) return ToQString(names_.StockName(std::string(raw.substr(1))));
+        return ToQString(ShownText(Of(column).format, raw));
     }
 
     void SetItem(const RowTable& result, int row, int column) {

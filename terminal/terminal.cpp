@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "screen/host/message_boxes_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "server/market/generated_market.h"
 #include "server/market/market_file.h"
 #include "server/remote/remote_service.h"
@@ -129,8 +129,7 @@ void Terminal::InstallServices() {
 
 SheetOrigin Terminal::OriginOfSheets() {
     const service::MarketSummary& market = window_.Foot().Market();
-    return {ToCp949(MarketLine(market).toStdString()), ToCp949(MarketDate(market).toStdString()),
-            workplace_.user};
+    return {FromQString(MarketLine(market)), FromQString(MarketDate(market)), workplace_.user};
 }
 
 void Terminal::OnInterestSaved(const std::string& group, bool show) {

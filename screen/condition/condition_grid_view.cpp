@@ -10,7 +10,7 @@
 
 #include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/palette/colors.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -94,7 +94,7 @@ bool ConditionCells::viewportEvent(QEvent* event) {
 bool ConditionCells::ShowWholeText(QPoint position, QPoint globalPosition) {
     const CCellID cell = Geometry().GetCellFromPt({position.x(), position.y()}, false);
     if (cell.row < 1 || cell.col != kColumnContent) return false;
-    const QString text = QString::fromStdString(ToUtf8(GetCell(cell.row, cell.col).text));
+    const QString text = ToQString(GetCell(cell.row, cell.col).text);
     if (fontMetrics().horizontalAdvance(text) < GetColWidth(kColumnContent)) return false;
     QToolTip::showText(globalPosition, "<p>" + text.toHtmlEscaped() + "</p>", viewport());
     return true;

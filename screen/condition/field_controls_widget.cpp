@@ -13,6 +13,7 @@
 #include "screen/condition/spin_box_widget.h"
 #include "screen/condition/token_list.h"
 #include "screen/palette/edges_qt.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -21,13 +22,13 @@ constexpr std::size_t kMostControls = 200;  // more would lie on top of one anot
 constexpr int kOptionIdFactor = 100;
 
 QLabel* MakeLabel(const CIndexField& field, QWidget* panel) {
-    auto* label = new QLabel(Shown(field.m_strValue), panel);
+    auto* label = new QLabel(ToQString(field.m_strValue), panel);
     label->setTextFormat(Qt::PlainText);
     return label;
 }
 
 QLineEdit* MakeEdit(const CIndexField& field, QWidget* panel) {
-    auto* edit = new QLineEdit(Shown(field.m_strValue), panel);
+    auto* edit = new QLineEdit(ToQString(field.m_strValue), panel);
     edit->setAlignment(Qt::AlignRight);
     return edit;
 }
@@ -100,10 +101,11 @@ void FieldControlSet::MakeControls(CIndexField& field) {
             break;
         case kFieldButton:
             field.m_pButton =
-                Add<ButtonControl>(field, rect, new QPushButton(Shown(field.m_strValue), &panel_));
+                Add<ButtonControl>(field, rect, new QPushButton(ToQString(field.m_strValue), &panel_));
             break;
         case kFieldCheck:
-            field.m_pCheck = Add<ButtonControl>(field, rect, new QCheckBox(Shown(field.m_strValue), &panel_));
+            field.m_pCheck =
+                Add<ButtonControl>(field, rect, new QCheckBox(ToQString(field.m_strValue), &panel_));
             break;
         case kFieldRadios:
         case kFieldRadioRows:
@@ -130,9 +132,9 @@ void FieldControlSet::MakeCombo(CIndexField& field, bool editable) {
     combo->setEditable(editable);
     combo->setInsertPolicy(QComboBox::NoInsert);
     const CTokenList items(field.m_strItems, '|');
-    for (const std::string& item : items.Tokens()) combo->addItem(Shown(item));
+    for (const std::string& item : items.Tokens()) combo->addItem(ToQString(item));
     combo->setCurrentIndex(field.m_nSelected);
-    if (editable && field.m_nSelected == -1) combo->setEditText(Shown(field.m_strValue));
+    if (editable && field.m_nSelected == -1) combo->setEditText(ToQString(field.m_strValue));
     if (field.m_nRole == kRoleSelector) QObject::connect(combo, &QComboBox::activated, combo, onChoice_);
     field.m_pCombo = Add<ComboControl>(field, ControlRect(field), combo);
 }
@@ -143,7 +145,7 @@ void FieldControlSet::MakeRadios(CIndexField& field) {
     const std::size_t count = std::min(texts.size(), kMostControls);
     auto group = std::make_unique<QButtonGroup>();
     for (std::size_t i = 0; i < count; ++i) {
-        auto* radio = new QRadioButton(Shown(texts[i]), &panel_);
+        auto* radio = new QRadioButton(ToQString(texts[i]), &panel_);
         group->addButton(radio);
         radio->setChecked(static_cast<int>(i) == field.m_nSelected);
         if (field.m_nRole == kRoleSelector) {

@@ -13,7 +13,7 @@
 
 #include "screen/condition/index_field.h"
 #include "screen/fbgrid/fb_device_pixels_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -35,14 +35,6 @@ private:
     std::unique_ptr<QWidget> widget_;
 };
 
-inline QString Shown(const std::string& cp949) {
-    return QString::fromStdString(ToUtf8(cp949));
-}
-
-inline std::string Stored(const QString& text) {
-    return ToCp949(text.toStdString());
-}
-
 template <typename WidgetType>
 class ControlOf : public WidgetControl {
 public:
@@ -55,7 +47,7 @@ protected:
 class LabelControl : public ControlOf<QLabel> {
 public:
     using ControlOf::ControlOf;
-    std::string GetText() const override { return Stored(at_.text()); }
+    std::string GetText() const override { return FromQString(at_.text()); }
 };
 
 // An edit box, with or without spin buttons. Blanks around the text are no part of the value.
@@ -63,7 +55,7 @@ template <typename Entry>
 class EntryControl : public ControlOf<Entry> {
 public:
     using ControlOf<Entry>::ControlOf;
-    std::string GetText() const override { return Stored(this->at_.text().trimmed()); }
+    std::string GetText() const override { return FromQString(this->at_.text().trimmed()); }
     void Focus() override {
         this->at_.setFocus();
         this->at_.selectAll();
@@ -73,7 +65,7 @@ public:
 class ButtonControl : public ControlOf<QAbstractButton> {
 public:
     using ControlOf::ControlOf;
-    std::string GetText() const override { return Stored(at_.text()); }
+    std::string GetText() const override { return FromQString(at_.text()); }
     int GetCheck() const override { return at_.isChecked() ? 1 : 0; }
     void SetCheck(int check) override { at_.setChecked(check != 0); }
 };
@@ -82,8 +74,8 @@ public:
 class ComboControl : public ControlOf<QComboBox> {
 public:
     using ControlOf::ControlOf;
-    std::string GetText() const override { return Stored(at_.currentText().trimmed()); }
-    std::string GetSelectedItemText() const override { return Stored(at_.itemText(GetSelectedIndex())); }
+    std::string GetText() const override { return FromQString(at_.currentText().trimmed()); }
+    std::string GetSelectedItemText() const override { return FromQString(at_.itemText(GetSelectedIndex())); }
     int GetSelectedIndex() const override {
         if (!at_.isEditable()) return at_.currentIndex();
         return at_.findText(at_.currentText().trimmed(), Qt::MatchExactly | Qt::MatchCaseSensitive);

@@ -4,20 +4,12 @@
 #include <algorithm>
 
 #include "screen/expression/expression_highlighter_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
 
 constexpr int kMargin = 2;  // pixels around the text
-
-QString FromCp949(const std::string& text) {
-    return QString::fromStdString(ToUtf8(text));
-}
-
-std::string Cp949Of(const QString& text) {
-    return ToCp949(text.toStdString());
-}
 
 }  // namespace
 
@@ -36,12 +28,12 @@ ExpressionEdit::ExpressionEdit(host::Questions& questions, QWidget* parent)
 }
 
 std::string ExpressionEdit::ExpressionText() const {
-    return Cp949Of(toPlainText());
+    return FromQString(toPlainText());
 }
 
 void ExpressionEdit::SetExpressionText(const std::string& text) {
     const QScopedValueRollback guard(byProgram_, true);
-    setPlainText(OnOneLine(FromCp949(text)));
+    setPlainText(OnOneLine(ToQString(text)));
     Recolour();
 }
 
@@ -49,7 +41,7 @@ TextSelection ExpressionEdit::Selection() const {
     const QString text = toPlainText();
     const QTextCursor cursor = textCursor();
     const auto bytesBefore = [&text](int position) {
-        return static_cast<int>(Cp949Of(text.left(position)).size());
+        return static_cast<int>(FromQString(text.left(position)).size());
     };
     return {bytesBefore(cursor.selectionStart()), bytesBefore(cursor.selectionEnd())};
 }
@@ -57,7 +49,7 @@ TextSelection ExpressionEdit::Selection() const {
 void ExpressionEdit::Select(TextSelection selection) {
     const std::string text = ExpressionText();
     const auto charactersBefore = [&text](int position) {
-        return static_cast<int>(FromCp949(text.substr(0, static_cast<std::size_t>(position))).size());
+        return static_cast<int>(ToQString(text.substr(0, static_cast<std::size_t>(position))).size());
     };
     SelectCharacters({charactersBefore(selection.start), charactersBefore(selection.end)});
 }
@@ -66,7 +58,7 @@ void ExpressionEdit::Select(TextSelection selection) {
 void ExpressionEdit::ReplaceSelection(const std::string& text) {
     const QScopedValueRollback guard(byProgram_, true);
     document()->setUndoRedoEnabled(false);
-    textCursor().insertText(OnOneLine(FromCp949(text)));
+    textCursor().insertText(OnOneLine(ToQString(text)));
     document()->setUndoRedoEnabled(true);
 }
 

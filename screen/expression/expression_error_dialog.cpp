@@ -8,7 +8,7 @@
 
 #include "screen/palette/colors_qt.h"
 #include "screen/palette/dialog_style_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -67,7 +67,7 @@ void ExpressionErrorDialog::FillText(const std::string& marked) {
     text_->setReadOnly(true);
     text_->document()->setDocumentMargin(kTextMargin);
     text_->setPlainText(QStringLiteral(" 선택영역을 확인하십시요. \r\n") + rule + "\r\n\r\n" +
-                        QString::fromStdString(ToUtf8(marked)));
+                        ToQString(marked));
     const int frames = 2 * (kTextMargin + text_->frameWidth());
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const QFontMetrics metrics = text_->fontMetrics();

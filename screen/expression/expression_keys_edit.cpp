@@ -6,7 +6,7 @@
 #include "screen/expression/expression_characters.h"
 #include "screen/expression/expression_edit.h"
 #include "screen/expression/expression_highlighter_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -117,7 +117,7 @@ void ExpressionEdit::InsertAsOneStep(const QString& text) {
 bool ExpressionEdit::MayInsert(const QString& text, int start, int end) {
     QString after = toPlainText();
     after.replace(start, end - start, text);
-    const auto refusal = RefuseLength(ExpressionText(), ToCp949(after.toStdString()));
+    const auto refusal = RefuseLength(ExpressionText(), FromQString(after));
     if (refusal) questions_.Ask(*refusal);
     return !refusal;
 }

@@ -9,7 +9,7 @@
 #include "screen/fbgrid/fb_grid_parts_widget.h"
 #include "screen/fbgrid/fb_inplace_edit.h"
 #include "screen/fbgrid/fb_inplace_list_widget.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -39,7 +39,7 @@ void FBGridInPlace::ConnectList(FBInPlaceList& list) {
         parts_.Notify(FBGridNotify::kChildCommand);
     });
     QObject::connect(&list, &QComboBox::editTextChanged, &grid_, [this](const QString& text) {
-        Write([&](CCell& cell) { cell.text = ToCp949(text.toStdString()); });
+        Write([&](CCell& cell) { cell.text = FromQString(text); });
     });
     QObject::connect(&list, &FBInPlaceList::Ended, &grid_, [this] { End(true); });
     QObject::connect(&list, &FBInPlaceList::KeyPassed, &grid_, [this](int key) {
@@ -51,7 +51,7 @@ void FBGridInPlace::OnSelection(const QComboBox& list, int index) {
     if (index < 0) return;
     Write([&](CCell& cell) {
         cell.check = static_cast<std::uint32_t>(index);
-        cell.text = ToCp949(list.itemText(index).toStdString());
+        cell.text = FromQString(list.itemText(index));
     });
 }
 

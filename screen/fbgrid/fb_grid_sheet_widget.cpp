@@ -7,7 +7,7 @@
 #include "screen/fbgrid/fb_grid_widget.h"
 #include "screen/host/message_boxes_qt.h"
 #include "screen/host/services.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 using namespace jogeon;
 
@@ -46,6 +46,6 @@ void CFBGrid::SaveToExcelPartially(const std::string& title, int firstCol, int l
     if (!self || !path || SaveSheetPartially(*this, *path, title, firstCol, lastCol)) return;
     (*questions)
         .Ask({.text = "파일을 열 수 없습니다."_cp949,
-              .caption = ToCp949(QGuiApplication::applicationDisplayName().toStdString()),
+              .caption = FromQString(QGuiApplication::applicationDisplayName()),
               .icon = host::Icon::Warning});
 }

@@ -48,7 +48,7 @@ FBInPlaceEdit::FBInPlaceEdit(QWidget* parent, const CCell& cell)
 
 void FBInPlaceEdit::StoreInto(CCell& cell) const {
     if (text() == opened_) return;
-    const std::string typed = ToCp949(text().toStdString());
+    const std::string typed = FromQString(text());
     if ((cell.state & CCell::kNumeric) != 0)
         cell.value = Atof(typed);
     else

@@ -5,7 +5,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon::host {
 namespace {
@@ -50,8 +50,8 @@ Answer AnswerOf(int button) {
 Answer MessageBoxes::Ask(const Box& box) {
     QMessageBox shown(&window_);
     shown.setTextFormat(Qt::PlainText);
-    shown.setText(QString::fromStdString(ToUtf8(box.text)));
-    shown.setWindowTitle(QString::fromStdString(ToUtf8(box.caption)));
+    shown.setText(ToQString(box.text));
+    shown.setWindowTitle(ToQString(box.caption));
     shown.setIcon(IconOf(box.icon));
     shown.setStandardButtons(ButtonsOf(box.buttons));
     for (const auto& [button, text] : {std::pair(QMessageBox::Ok, "확인"),
@@ -75,9 +75,9 @@ bool MessageBoxes::Run(const std::string&, void* object) {
 std::optional<std::filesystem::path> MessageBoxes::AskSavePath(const FileQuestion& question) {
     QFileDialog dialog(&window_);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(QString::fromStdString(ToUtf8(question.filterName)));
-    dialog.setDefaultSuffix(QString::fromStdString(ToUtf8(question.extension)));
-    dialog.selectFile(QString::fromStdString(ToUtf8(question.name)));
+    dialog.setNameFilter(ToQString(question.filterName));
+    dialog.setDefaultSuffix(ToQString(question.extension));
+    dialog.selectFile(ToQString(question.name));
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return std::filesystem::path(dialog.selectedFiles().front().toStdU16String());
 }

@@ -8,7 +8,7 @@
 #include "screen/palette/header_style_qt.h"
 #include "screen/panes/tree_item_qt.h"
 #include "screen/panes/tree_nodes.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -21,7 +21,7 @@ struct Row : QTreeWidgetItem {
     explicit Row(TreeItem& shown)
         : node(shown), group(GroupText(shown.AncestorTexts(), shown.Text())), key(SortKey(shown.Text())) {
         setText(kText, shown.text(0));
-        setText(kGroup, QString::fromStdString(ToUtf8(group)));
+        setText(kGroup, ToQString(group));
         setIcon(kText, shown.icon(0));
         for (const int column : {kText, kGroup}) setToolTip(column, text(column));
     }

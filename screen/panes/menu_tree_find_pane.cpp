@@ -1,7 +1,7 @@
 // The find of the tree pane: what it looks through, and how it shows a hit.
 #include "screen/panes/menu_tree_pane.h"
 #include "screen/panes/tree_item_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -40,7 +40,7 @@ void CMenuTreeView::ShowHit() {
 void CMenuTreeView::ShowCounter() {
     QStringList hint;
     for (const std::string& text : find_.FoundTexts()) {
-        hint.append(hint.size() < kHintedHits ? QString::fromStdString(ToUtf8(text)) : "…");
+        hint.append(hint.size() < kHintedHits ? ToQString(text) : "…");
         if (hint.size() > kHintedHits) break;
     }
     form_.ShowCounter(QString::fromStdString(find_.CounterText()), hint.join('\n'), find_.HasHit());

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -64,7 +64,7 @@ void ProgressLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(bar, barColor);
     painter.fillRect(rest, restColor);
-    const QString text = QString::fromStdString(ToUtf8(state_.ShownText()));
+    const QString text = ToQString(state_.ShownText());
     if (text.isEmpty()) return;
     const auto drawIn = [&](const QRect& part, const QColor& color) {
         painter.setClipRect(part);

@@ -6,7 +6,7 @@
 
 #include "screen/panes/tree_icons_qt.h"
 #include "screen/panes/tree_nodes.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -17,7 +17,7 @@ TreeItem::TreeItem(std::string_view text, int image) : image_(image) {
 
 void TreeItem::SetText(std::string_view text) {
     text_ = CutToBytes(text, kLongestText);
-    setText(0, QString::fromStdString(ToUtf8(text_)));
+    setText(0, ToQString(text_));
     setToolTip(0, this->text(0));
 }
 

@@ -5,7 +5,7 @@
 
 #include "screen/palette/colors_qt.h"
 #include "screen/results/result_notice_places.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -19,8 +19,7 @@ ResultNoticePopup::ResultNoticePopup(QWidget& screen, host::Clock& clock, const 
     label->setGeometry(kResultNoticeTextLeft, kResultNoticeTextTop, kResultNoticeTextWidth,
                        kResultNoticeTextHeight);
     label->setAlignment(Qt::AlignCenter);
-    label->setText(text.empty() ? QStringLiteral("검색된 종목이 없습니다.")
-                                : QString::fromStdString(ToUtf8(text)));
+    label->setText(text.empty() ? QStringLiteral("검색된 종목이 없습니다.") : ToQString(text));
     QPalette colors;
     colors.setColor(QPalette::WindowText, ToQColor(Color::NoticeText));
     label->setPalette(colors);

@@ -1,7 +1,7 @@
 #include "screen/results/result_sheet_qt.h"
 
 #include "screen/results/result_grid_view.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "screen/transactions/result_columns.h"
 
 namespace jogeon {
@@ -44,7 +44,7 @@ host::Sheet MakeResultSheet(const ResultGrid& grid, const std::vector<int>& rows
     }
     for (const int row : rows) {
         std::vector<std::string>& cells = sheet.rows.emplace_back();
-        for (const int column : columns) cells.push_back(ToCp949(grid.CopiedText(row, column).toStdString()));
+        for (const int column : columns) cells.push_back(FromQString(grid.CopiedText(row, column)));
     }
     return sheet;
 }

@@ -3,7 +3,7 @@
 #include <QSignalBlocker>
 
 #include "screen/palette/colors_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -31,12 +31,12 @@ CNVTab::CNVTab(QWidget* parent, int padding) : QTabBar(parent), padding_(padding
 }
 
 std::string CNVTab::TabLabel(int tab) const {
-    return ToCp949(tabText(tab).toStdString());
+    return FromQString(tabText(tab));
 }
 
 void CNVTab::AddTab(const std::string& label) {
     const QSignalBlocker quiet(this);
-    addTab(QString::fromStdString(ToUtf8(label)));
+    addTab(ToQString(label));
 }
 
 void CNVTab::SelectTab(int tab) {

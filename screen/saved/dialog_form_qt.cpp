@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "screen/palette/dialog_style_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -49,16 +49,12 @@ void ListSets(QTreeWidget& list, const std::vector<SavedSetName>& sets) {
     list.clear();
     int widest = 0;
     for (const SavedSetName& set : sets) {
-        const QString text = Shown("[" + set.number + "]" + set.name);
+        const QString text = ToQString("[" + set.number + "]" + set.name);
         new QTreeWidgetItem(&list, {text});
         widest = std::max(widest, list.fontMetrics().horizontalAdvance(text) + kMargins);
     }
     list.header()->setMinimumSectionSize(widest);
     list.header()->resizeSection(0, widest);  // the header stretches it at least to the list's width
-}
-
-QString Shown(const std::string& cp949) {
-    return QString::fromStdString(ToUtf8(cp949));
 }
 
 }  // namespace jogeon

@@ -29,7 +29,4 @@ void SetUpList(QTreeWidget& list, const QStringList& columns);
 // scrolled to its end.
 void ListSets(QTreeWidget& list, const std::vector<SavedSetName>& sets);
 
-// CP949 as it is shown.
-QString Shown(const std::string& cp949);
-
 }  // namespace jogeon

@@ -6,7 +6,7 @@
 #include "screen/saved/dialog_form_qt.h"
 #include "screen/saved/name_check.h"
 #include "screen/saved/name_dialog_places.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 
@@ -20,7 +20,7 @@ NameDialog::NameDialog(std::vector<std::string> names, const std::string& start,
     PlaceControl(*label, kPlaces, kLabel);
     label->setBuddy(&edit_);
     PlaceControl(edit_, kPlaces, kEdit);
-    edit_.setText(Shown(start));
+    edit_.setText(ToQString(start));
     edit_.selectAll();
     QPushButton& ok = AddButton(*this, kPlaces, kOk, "확인");
     ok.setDefault(true);

@@ -10,7 +10,7 @@
 #include "screen/shell/control_icons_qt.h"
 #include "screen/shell/saved_wiring_qt.h"
 #include "screen/target/target_dialog.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -112,9 +112,8 @@ SearchInputs ConditionScreen::GatherSearchInputs() {
     SearchInputs inputs;
     inputs.window = handle_;
     inputs.scope = static_cast<SearchScope>(std::max(0, form_.ComboAt(control::kScope).currentIndex()));
-    inputs.header = {userId_, saved_.CurrentSaved(),
-                     ToCp949(form_.LabelAt(control::kNameLabel).text().toStdString()), BuySelected(),
-                     saved_.Target()};
+    inputs.header = {userId_, saved_.CurrentSaved(), FromQString(form_.LabelAt(control::kNameLabel).text()),
+                     BuySelected(), saved_.Target()};
     inputs.targetLabel = saved_.Target().m_strTargetLabel;
     inputs.conditions = editor_.Conditions();
     inputs.expressionText = expressionEdit_.ExpressionText();

@@ -13,17 +13,9 @@
 #include "screen/shell/screen_keys_qt.h"
 #include "screen/shell/screen_splitter_widget.h"
 #include "screen/shell/screen_style_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
-namespace {
-
-QString Shown(const std::string& cp949) {
-    return QString::fromStdString(ToUtf8(cp949));
-}
-
-}  // namespace
-
 ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
     : QWidget(parent),
       services_(host::Installed()),
@@ -201,7 +193,7 @@ void ConditionScreen::RefreshCursor() {
 // --- SavedConditionView
 
 void ConditionScreen::ShowName(const std::string& name) {
-    form_.LabelAt(control::kNameLabel).setText(Shown(name));
+    form_.LabelAt(control::kNameLabel).setText(ToQString(name));
 }
 
 bool ConditionScreen::BuySelected() const {
@@ -214,7 +206,7 @@ void ConditionScreen::SelectBuy(bool buy) {
 
 void ConditionScreen::ShowTarget(const SearchTarget& target) {
     QLabel& label = form_.LabelAt(control::kTargetLabel);
-    label.setText(Shown(target.m_strTargetLabel));
+    label.setText(ToQString(target.m_strTargetLabel));
     const bool cut = label.sizeHint().width() > label.width();
     label.setToolTip(cut ? label.text() : QString());
 }

@@ -5,7 +5,7 @@
 
 #include "screen/palette/colors_qt.h"
 #include "screen/palette/edges_qt.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 
 namespace jogeon {
 namespace {
@@ -18,7 +18,7 @@ constexpr int kIndentation = 16;
 constexpr int kRowSpace = 6;  // pixels that a row is higher than its text
 
 QTreeWidgetItem* MakeItem(const std::string& text, int height) {
-    auto* item = new QTreeWidgetItem({QString::fromStdString(ToUtf8(text))});
+    auto* item = new QTreeWidgetItem({ToQString(text)});
     item->setSizeHint(kText, QSize(0, height));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);

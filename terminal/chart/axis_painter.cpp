@@ -6,6 +6,7 @@
 #include "terminal/chart/canvas.h"
 #include "terminal/chart/date_axis.h"
 #include "terminal/chart/texts.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {
 namespace {
@@ -31,7 +32,7 @@ struct Axis {
 };
 
 QString LowerText(double value) {
-    return QString::fromStdString(NumberText(value, value == std::floor(value) ? 0 : 1));
+    return NumberText(value, value == std::floor(value) ? 0 : 1);
 }
 
 std::vector<Axis> AxesOf(const Scene& scene) {

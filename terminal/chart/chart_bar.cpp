@@ -5,6 +5,8 @@
 #include <QSignalBlocker>
 #include <QWidgetAction>
 
+#include "screen/palette/colors_qt.h"
+
 namespace jogeon::terminal::chart {
 namespace {
 
@@ -16,7 +18,7 @@ constexpr int kClearButton = 34;
 
 ChartBar::ChartBar(QWidget* parent)
     : QWidget(parent),
-      box_(new StockBox(this)),
+      box_(new StockInput(this)),
       timeframes_(new QButtonGroup(this)),
       lower_(new QComboBox(this)),
       editor_(new StudyEditor) {
@@ -26,9 +28,13 @@ ChartBar::ChartBar(QWidget* parent)
     box_->setObjectName("stock");
     box_->setPlaceholderText(tr("종목코드 또는 종목명"));
     box_->setAccessibleName(tr("종목"));
-    box_->setMinimumWidth(fontMetrics().horizontalAdvance("000000 가나다라마") + kClearButton);
+    box_->setMinimumWidth(fontMetrics().horizontalAdvance("가나다라마바사") + kClearButton);
     box_->setMaximumWidth(fontMetrics().averageCharWidth() * kBoxCharacters + kClearButton);
     row->addWidget(box_, 1);
+    Warn(false);
+    connect(box_, &StockInput::textEdited, this, [this] { Warn(false); });
+    connect(box_, &StockInput::Missed, this, [this] { Warn(true); });
+    connect(box_, &StockInput::Chosen, this, &ChartBar::StockChosen);
     AddSteps();
     row->addSpacing(kGroupGap);
     AddTimeframes();
@@ -90,6 +96,20 @@ void ChartBar::AddIndicators() {
     lines->setMenu(menu);
     lines->setPopupMode(QToolButton::InstantPopup);
     connect(editor_, &StudyEditor::Changed, this, &ChartBar::Tell);
+}
+
+void ChartBar::ShowStock(const QString& code, const QString& name) {
+    box_->ShowStock(code, name);
+    Warn(false);
+}
+
+void ChartBar::Warn(bool unknown) {
+    QPalette colors;
+    if (unknown) colors.setColor(QPalette::Text, ToQColor(Color::ChartRise));
+    box_->setPalette(colors);
+    box_->setAccessibleDescription(unknown ? tr("그런 종목이 없습니다") : QString());
+    box_->setToolTip(unknown ? tr("그런 종목이 없습니다")
+                             : tr("종목코드나 종목명을 넣고 Enter 키를 누르면 차트가 바뀝니다"));
 }
 
 void ChartBar::SetChoice(const Choice& choice) {

@@ -8,8 +8,8 @@
 #include <QToolButton>
 #include <QWidget>
 
-#include "terminal/chart/stock_box.h"
 #include "terminal/chart/study_editor.h"
+#include "terminal/stocks/stock_input.h"
 
 namespace jogeon::terminal::chart {
 
@@ -19,7 +19,12 @@ class ChartBar : public QWidget {
 public:
     explicit ChartBar(QWidget* parent = nullptr);
 
-    StockBox& Box() { return *box_; }
+    // The stocks that the trader can name here. `stocks` is used until the next call.
+    void SetStocks(const StockIndex& stocks) { box_->SetStocks(stocks); }
+
+    // Puts in the stock that is shown elsewhere.
+    void ShowStock(const QString& code, const QString& name);
+
     void Restyle() { editor_->Restyle(); }  // colours are others now
 
     // Shows what is chosen, without ChoiceMade().
@@ -29,6 +34,7 @@ public:
     void SetPlace(int place, int count);
 
 signals:
+    void StockChosen(const std::string& code);
     void StepAsked(int by);  // -1 or 1
     void ChoiceMade(const Choice& choice);
 
@@ -37,9 +43,10 @@ private:
     void AddSteps();
     void AddTimeframes();
     void AddIndicators();
+    void Warn(bool unknown);
     void Tell();
 
-    StockBox* box_;
+    StockInput* box_;
     QToolButton* back_ = nullptr;
     QLabel* place_ = nullptr;
     QToolButton* forward_ = nullptr;

@@ -5,7 +5,7 @@
 #include <exception>
 #include <utility>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/chart/kept_choice.h"
 #include "terminal/screens/stock_link.h"
 
@@ -16,10 +16,6 @@ using chart::Choice;
 
 constexpr char kResultKey[] = "CS_RESULT";
 constexpr char kSetTag[] = "CONDSET";
-
-QString ToText(const std::string& cp949) {
-    return QString::fromStdString(ToUtf8(cp949));
-}
 
 }  // namespace
 
@@ -38,8 +34,8 @@ ChartScreen::ChartScreen(const Workplace& workplace, QWidget* parent)
     view_->ShowMessage(tr("종목을 고르면 차트가 나타납니다"));
     connect(bar_, &chart::ChartBar::StepAsked, this, &ChartScreen::Step);
     connect(bar_, &chart::ChartBar::ChoiceMade, this, &ChartScreen::Choose);
-    connect(&bar_->Box(), &chart::StockBox::Chosen, this, [this](const QString& code) {
-        ShowStock(code.toStdString());
+    connect(bar_, &chart::ChartBar::StockChosen, this, [this](const std::string& code) {
+        ShowStock(code);
         view_->setFocus();
     });
 }
@@ -156,8 +152,8 @@ void ChartScreen::Load() {
 void ChartScreen::OnLoaded(const Loaded& loaded) {
     loading_ = false;
     const QString code = QString::fromStdString(code_);
-    name_ = loaded.stock ? ToText(loaded.stock->name) : QString();
-    bar_->Box().ShowStock(code, name_);
+    name_ = loaded.stock ? ToQString(loaded.stock->name) : QString();
+    bar_->ShowStock(code, name_);
     emit TitleChanged();
     if (loaded.failed) return view_->ShowMessage(tr("지금은 차트를 불러올 수 없습니다"));
     if (!loaded.stock) return view_->ShowMessage(tr("%1: 없는 종목입니다").arg(code));
@@ -183,7 +179,8 @@ void ChartScreen::AskStocks() {
     };
     InBackground(workplace_, *this, ask, [this](const std::vector<service::StockEntry>& stocks) {
         named_ = !stocks.empty();
-        bar_->Box().SetStocks(stocks);
+        stocks_ = StockIndex(stocks);
+        bar_->SetStocks(stocks_);
     });
 }
 

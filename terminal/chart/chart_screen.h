@@ -12,6 +12,7 @@
 #include "terminal/chart/chart_view.h"
 #include "terminal/screens/own_screen.h"
 #include "terminal/screens/workplace.h"
+#include "terminal/stocks/stock_index.h"
 
 namespace jogeon::terminal {
 
@@ -67,7 +68,8 @@ private:
 
     std::string code_;
     QString name_;
-    bool named_ = false;  // the stocks for the box have been asked for
+    bool named_ = false;  // the stocks have been asked for
+    StockIndex stocks_;   // that the trader can name
     std::optional<std::vector<int>> trueDays_;
 
     // Answers to older questions are let go.

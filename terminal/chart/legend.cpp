@@ -5,6 +5,7 @@
 
 #include "screen/palette/colors_qt.h"
 #include "terminal/chart/texts.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {
 namespace {
@@ -17,8 +18,7 @@ constexpr int kEntryGap = 12;
 constexpr int kLabelGap = 4;
 
 QString ValueText(double value, int decimals = 0) {
-    const std::string text = NumberText(value, decimals);
-    return text.empty() ? QStringLiteral("-") : QString::fromStdString(text);
+    return OrDash(NumberText(value, decimals));
 }
 
 double ValueAt(const Curve& curve, int bar) {
@@ -35,7 +35,7 @@ QString WidestOf(const Content& content, const LegendEntry& entry, double mostPr
         case Kind::Percent:
             return QStringLiteral("+88.88%");
         case Kind::Volume:
-            return QString::fromStdString(NumberText(mostVolume));
+            return NumberText(mostVolume);
         case Kind::Bands:
             return QStringLiteral("%1 / %1 / %1").arg(PriceText(mostPrice));
         case Kind::Lower:
@@ -121,14 +121,8 @@ std::vector<LegendEntry> EntriesOf(const Content& content, const Marks& marks, i
         {Kind::Price, ChartTexts::tr("고"), PriceText(quote.high), faint, against(quote.high), false},
         {Kind::Price, ChartTexts::tr("저"), PriceText(quote.low), faint, against(quote.low), false},
         {Kind::Price, ChartTexts::tr("종"), PriceText(quote.close), faint, against(quote.close), false},
-        {Kind::Percent,
-         {},
-         QString::fromStdString(PercentText(content.ChangeOf(bar))),
-         text,
-         against(quote.close),
-         false},
-        {Kind::Volume, ChartTexts::tr("거래량"), QString::fromStdString(NumberText(quote.volume)), faint,
-         text, false}};
+        {Kind::Percent, {}, PercentText(content.ChangeOf(bar)), text, against(quote.close), false},
+        {Kind::Volume, ChartTexts::tr("거래량"), NumberText(quote.volume), faint, text, false}};
     if (marks.known)
         entries.push_back({Kind::Note, QStringLiteral("▲"), ChartTexts::tr("조건 만족 %1일").arg(marks.days),
                            ToQColor(Color::ChartMark), text, false});

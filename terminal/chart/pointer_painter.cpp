@@ -5,6 +5,7 @@
 
 #include "terminal/chart/axis_painter.h"
 #include "terminal/chart/canvas.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {
 namespace {
@@ -16,8 +17,7 @@ QString ValueText(const Scene& scene, QPoint at) {
     const Panes& panes = scene.panes;
     if (panes.price.contains(at)) return PriceText(std::round(scene.price.ValueAt(at.y())));
     if (panes.volume.contains(at)) return VolumeText(std::max(0.0, scene.volume.ValueAt(at.y())));
-    if (panes.lowerCurves.contains(at))
-        return QString::fromStdString(NumberText(scene.lower.ValueAt(at.y()), 1));
+    if (panes.lowerCurves.contains(at)) return NumberText(scene.lower.ValueAt(at.y()), 1);
     return {};
 }
 

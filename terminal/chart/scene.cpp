@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "terminal/texts/value_texts.h"
+
 namespace jogeon::terminal::chart {
 namespace {
 
@@ -80,19 +82,12 @@ Scene::Scene(const Content& shown, const Marks& shownMarks, const BarWindow& bar
       lower(LowerScaleOf(shown, bars, places.lowerCurves)) {}
 
 QString PriceText(double won) {
-    return QString::fromStdString(NumberText(won));
+    return NumberText(won);
 }
 
 QString VolumeText(double shares) {
-    if (shares < kMillion) return QString::fromStdString(NumberText(shares));
-    return QString::fromStdString(NumberText(shares / kThousand)) + "K";
-}
-
-QString DateText(int date) {
-    return QStringLiteral("%1-%2-%3")
-        .arg(date / 10000)
-        .arg(date / 100 % 100, 2, 10, QLatin1Char('0'))
-        .arg(date % 100, 2, 10, QLatin1Char('0'));
+    if (shares < kMillion) return NumberText(shares);
+    return NumberText(shares / kThousand) + "K";
 }
 
 }  // namespace jogeon::terminal::chart

@@ -74,6 +74,5 @@ struct Scene {
 // Texts as the axis has them. Prices are in whole won; a volume of a million or more in thousands: "1,234K".
 QString PriceText(double won);
 QString VolumeText(double shares);
-QString DateText(int date);  // 2024-03-05
 
 }  // namespace jogeon::terminal::chart

@@ -2,18 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 namespace jogeon::terminal::chart {
 namespace {
 
 constexpr double kAroundOneValue = 0.01;  // of the value
-
-std::string Digits(const char* form, int decimals, double value) {
-    char text[400];
-    std::snprintf(text, sizeof text, form, decimals, value);
-    return text;
-}
 
 }  // namespace
 
@@ -54,22 +47,6 @@ double NiceStep(double size) {
     for (const double times : {1.0, 2.0, 5.0})
         if (times * power >= size * (1 - 1e-9)) return times * power;
     return 10 * power;
-}
-
-std::string NumberText(double value, int decimals) {
-    if (std::isnan(value)) return {};
-    std::string text = Digits("%.*f", decimals, value);
-    if (text.find_first_not_of("-0.") == std::string::npos && text.front() == '-') text.erase(0, 1);
-    const std::size_t start = text.front() == '-' ? 1 : 0;
-    const std::size_t point = std::min(text.find('.'), text.size());
-    for (std::size_t at = point; at > start + 3; at -= 3) text.insert(at - 3, 1, ',');
-    return text;
-}
-
-std::string PercentText(double percent) {
-    if (std::isnan(percent)) return {};
-    const std::string text = Digits("%+.*f%%", 2, percent);
-    return text.find_first_of("123456789") == std::string::npos ? text.substr(1) : text;
 }
 
 }  // namespace jogeon::terminal::chart

@@ -40,10 +40,4 @@ private:
 // The smallest 1, 2 or 5 times a power of ten that is at least `size`.
 double NiceStep(double size);
 
-// "1,234,500" and "-12.50"; empty for NaN.
-std::string NumberText(double value, int decimals = 0);
-
-// "+1.25%"; empty for NaN.
-std::string PercentText(double percent);
-
 }  // namespace jogeon::terminal::chart

@@ -8,9 +8,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "terminal/interest/interest_look.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/list_order.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/look/list_look.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -96,7 +98,7 @@ void GroupList::ShowGroups() {
     for (int i = 0; i < groups_->topLevelItemCount(); ++i) {
         QTreeWidgetItem* item = groups_->topLevelItem(i);
         const auto stocks = book_.Groups()[static_cast<std::size_t>(i)].stocks.size();
-        item->setText(kCount, CountText(static_cast<std::int64_t>(stocks)));
+        item->setText(kCount, CountText(static_cast<qint64>(stocks)));
         if (CodeOf(*item) == chosen_ && item != groups_->currentItem()) groups_->setCurrentItem(item);
     }
     chosen_ = groups_->currentItem() ? CodeOf(*groups_->currentItem()) : std::string();
@@ -109,7 +111,7 @@ bool GroupList::ListsGroups() const {
     if (groups_->topLevelItemCount() != static_cast<int>(groups.size())) return false;
     for (std::size_t i = 0; i < groups.size(); ++i) {
         const QTreeWidgetItem& item = *groups_->topLevelItem(static_cast<int>(i));
-        if (CodeOf(item) != groups[i].code || item.text(kName) != Text(groups[i].name)) return false;
+        if (CodeOf(item) != groups[i].code || item.text(kName) != ToQString(groups[i].name)) return false;
     }
     return true;
 }
@@ -119,7 +121,7 @@ void GroupList::ListGroups() {
     const int place = groups_->indexOfTopLevelItem(groups_->currentItem());
     groups_->clear();
     for (const service::InterestGroup& group : book_.Groups()) {
-        auto* item = new QTreeWidgetItem(groups_, {Text(group.name)});
+        auto* item = new QTreeWidgetItem(groups_, {ToQString(group.name)});
         item->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(kName, kCodeRole, QString::fromStdString(group.code));
         item->setFlags(item->flags() | Qt::ItemIsEditable);
@@ -151,7 +153,7 @@ void GroupList::NewGroup() {
     QString name = first;
     for (int number = 2;; ++number) {
         const bool inUse = std::any_of(book_.Groups().begin(), book_.Groups().end(),
-                                       [&](const auto& group) { return Text(group.name) == name; });
+                                       [&](const auto& group) { return ToQString(group.name) == name; });
         if (!inUse) break;
         name = first + QLatin1Char(' ') + QString::number(number);
     }
@@ -171,7 +173,7 @@ void GroupList::DeleteGroup() {
     const service::InterestGroup* group = book_.FindGroup(chosen_);
     if (!group) return;
     const QString question =
-        tr("관심그룹 '%1'(%2종목)을 삭제하시겠습니까?").arg(Text(group->name)).arg(group->stocks.size());
+        tr("관심그룹 '%1'(%2종목)을 삭제하시겠습니까?").arg(ToQString(group->name)).arg(group->stocks.size());
     const std::string code = group->code;
     if (!Agrees(questions_, question, tr("관심그룹 삭제"))) return;
     book_.Do([code](service::Portfolios& portfolios, const std::string& user) -> service::Addition {

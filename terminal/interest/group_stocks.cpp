@@ -8,10 +8,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "screen/text/cp949.h"
-#include "terminal/interest/interest_look.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/list_order.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/look/list_look.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -24,8 +25,8 @@ StockRow RowOf(const std::string& code, const PortfolioBook& book) {
     const service::Quote quote = known ? *known : service::Quote{code, NAN, NAN};
     const double percent = quote.change / (quote.close - quote.change) * 100;
     return {code,
-            {Text(book.NameOf(code)), Text(code), WonText(quote.close), ChangeText(quote.change),
-             PercentText(percent)},
+            {ToQString(book.NameOf(code)), ToQString(code), OrDash(WonText(quote.close)),
+             ChangeText(quote.change), OrDash(PercentText(percent))},
             TrendOf(quote.change)};
 }
 
@@ -40,7 +41,7 @@ GroupStocks::GroupStocks(PortfolioBook& book, host::Questions& questions, QWidge
                               {tr("코드"), 9, false, false},
                               {tr("현재가"), 11, true, true},
                               {tr("대비"), 11, true, true},
-                              {tr("등락률(%)"), 10, true, true}})),
+                              {tr("등락률"), 10, true, true}})),
       count_(new QLabel),
       paste_(MakeButton("paste", tr("붙여넣기"),
                         tr("클립보드에 있는 종목코드나 종목명을 추가합니다 (Ctrl+V)"))) {
@@ -78,6 +79,7 @@ QLayout* GroupStocks::MakeFoot() {
 
 void GroupStocks::ConnectParts() {
     connect(input_, &StockInput::Chosen, this, [this](const std::string& code) { AddStocks({code}); });
+    connect(input_, &StockInput::Chosen, input_, &QLineEdit::clear, Qt::QueuedConnection);
     connect(input_, &StockInput::Missed, this, [this](const QString& text) {
         Tell(questions_, tr("'%1'에 맞는 종목이 없습니다.").arg(text), tr("종목 추가"));
     });
@@ -144,7 +146,7 @@ void GroupStocks::MoveStocks(int by) {
 void GroupStocks::Paste() {
     if (!book_.FindGroup(group_)) return;
     const PastedStocks pasted =
-        ReadPastedStocks(book_.Stocks(), ToCp949(QGuiApplication::clipboard()->text().toStdString()));
+        ReadPastedStocks(book_.Stocks(), FromQString(QGuiApplication::clipboard()->text()));
     if (!pasted.codes.empty()) AddStocks(pasted.codes);
     if (!pasted.unknown.empty()) return TellSkipped(pasted);
     if (pasted.codes.empty()) Tell(questions_, tr("클립보드에 글자가 없습니다."), paste_->text());
@@ -153,7 +155,7 @@ void GroupStocks::Paste() {
 void GroupStocks::TellSkipped(const PastedStocks& pasted) {
     QStringList lines;
     for (std::size_t i = 0; i < std::min(kShownUnknown, pasted.unknown.size()); ++i)
-        lines += Text(std::string(CutToBytes(pasted.unknown[i], kShownBytes)));
+        lines += ToQString(std::string(CutToBytes(pasted.unknown[i], kShownBytes)));
     if (pasted.unknown.size() > kShownUnknown) lines += "...";
     Tell(questions_,
          tr("%1종목을 찾았고, 종목을 찾을 수 없는 %2줄은 건너뛰었습니다.\n\n%3")

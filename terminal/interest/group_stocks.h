@@ -8,8 +8,8 @@
 #include <QWidget>
 
 #include "terminal/interest/portfolio_book.h"
-#include "terminal/interest/stock_input.h"
 #include "terminal/interest/stock_table.h"
+#include "terminal/stocks/stock_input.h"
 
 namespace jogeon::terminal {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "terminal/interest/stock_index.h"
+#include "terminal/stocks/stock_index.h"
 
 namespace jogeon::terminal {
 

@@ -8,9 +8,11 @@
 #include <algorithm>
 
 #include "screen/palette/edges_qt.h"
-#include "terminal/interest/interest_look.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
 #include "terminal/interest/stock_table.h"
+#include "terminal/look/list_look.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -21,7 +23,7 @@ constexpr int kRefusedHeight = 130;
 constexpr int kAccountPlaces = 16;
 
 QString CountedLabel(const QString& what, std::size_t count) {
-    return QStringLiteral("<b>%1</b>  %2").arg(what, CountText(static_cast<std::int64_t>(count)));
+    return QStringLiteral("<b>%1</b>  %2").arg(what, CountText(static_cast<qint64>(count)));
 }
 
 }  // namespace
@@ -78,8 +80,9 @@ QWidget* HoldingsDialog::MakeRead() {
     std::vector<StockRow> rows;
     for (const service::Holding& held : file_.holdings) {
         const QString price = held.averagePrice > 0 ? WonText(held.averagePrice) : QStringLiteral("-");
-        rows.push_back({held.stock,
-                        {Text(book_.NameOf(held.stock)), Text(held.stock), CountText(held.quantity), price}});
+        rows.push_back(
+            {held.stock,
+             {ToQString(book_.NameOf(held.stock)), ToQString(held.stock), CountText(held.quantity), price}});
     }
     table->SetRows(std::move(rows));
     return table;

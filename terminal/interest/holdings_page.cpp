@@ -7,10 +7,12 @@
 #include <cmath>
 #include <utility>
 
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/holdings_csv.h"
 #include "terminal/interest/holdings_dialog.h"
-#include "terminal/interest/interest_look.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/look/list_look.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -35,8 +37,9 @@ StockRow RowOf(const service::Holding& held, const PortfolioBook& book, Worth& w
     else
         worth.value += value;
     return {held.stock,
-            {Text(book.NameOf(held.stock)), Text(held.stock), CountText(held.quantity),
-             paid ? WonText(held.averagePrice) : QStringLiteral("-"), WonText(value), PercentText(gain)},
+            {ToQString(book.NameOf(held.stock)), ToQString(held.stock), CountText(held.quantity),
+             paid ? WonText(held.averagePrice) : QStringLiteral("-"), OrDash(WonText(value)),
+             OrDash(PercentText(gain))},
             TrendOf(gain)};
 }
 
@@ -56,7 +59,7 @@ HoldingsPage::HoldingsPage(PortfolioBook& book, host::Questions& questions, Form
                                 {tr("수량"), 10, true, false},
                                 {tr("매입단가"), 12, true, false},
                                 {tr("평가금액"), 15, true, false},
-                                {tr("수익률(%)"), 11, true, true}})),
+                                {tr("수익률"), 11, true, true}})),
       total_(new QLabel) {
     accounts_->setObjectName("accounts");
     accounts_->setMinimumContentsLength(kAccountPlaces);

@@ -9,8 +9,9 @@
 #include <utility>
 
 #include "screen/palette/edges_qt.h"
-#include "terminal/interest/interest_look.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/look/list_look.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -58,7 +59,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     advice_->setObjectName("advice");
     advice_->setWordWrap(true);
     for (const service::InterestGroup& group : groups_)
-        list_->addItem(tr("%1 (%2종목)").arg(Text(group.name)).arg(group.stocks.size()),
+        list_->addItem(tr("%1 (%2종목)").arg(ToQString(group.name)).arg(group.stocks.size()),
                        QString::fromStdString(group.code));
     list_->setCurrentIndex(std::max(0, list_->findData(QString::fromStdString(last))));
     (groups_.empty() ? new_ : existing_)->setChecked(true);

@@ -9,6 +9,7 @@
 
 #include "screen/host/window_messages_qt.h"
 #include "screen/settings/settings_block.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
 
 namespace jogeon::terminal {
@@ -92,7 +93,7 @@ bool InterestSave::MayReplace(const std::string& code, const std::vector<Interes
     if (!group || group->stocks.empty()) return true;
     return Agrees(workplace_.questions,
                   tr("관심그룹 '%1'에 있는 %2종목을 검색 결과로 바꾸시겠습니까?")
-                      .arg(Text(group->name))
+                      .arg(ToQString(group->name))
                       .arg(group->stocks.size()),
                   Caption());
 }

@@ -4,8 +4,9 @@
 #include <QVBoxLayout>
 
 #include "screen/host/link_info_item.h"
-#include "terminal/interest/interest_look.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/look/list_look.h"
 #include "terminal/screens/stock_link.h"
 
 namespace jogeon::terminal {
@@ -29,7 +30,7 @@ InterestScreen::InterestScreen(const Workplace& workplace, QWidget* parent)
       groups_(new GroupPage(book_, questions_)),
       holdings_(new HoldingsPage(book_, questions_,
                                  [&links = links_](const std::string& number) {
-                                     return Text(links.NVLink_GetAccountFmt(number, 1));
+                                     return ToQString(links.NVLink_GetAccountFmt(number, 1));
                                  })),
       trouble_(new QLabel) {
     pages_->setObjectName("pages");

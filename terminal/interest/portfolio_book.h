@@ -10,8 +10,8 @@
 #include <map>
 #include <optional>
 
-#include "terminal/interest/stock_index.h"
 #include "terminal/screens/workplace.h"
+#include "terminal/stocks/stock_index.h"
 
 namespace jogeon::terminal {
 

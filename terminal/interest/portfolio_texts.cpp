@@ -1,10 +1,10 @@
 #include "terminal/interest/portfolio_texts.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <cmath>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
@@ -12,10 +12,6 @@ namespace {
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(Portfolios)
 };
-
-QString Grouped(double value, int decimals) {
-    return QLocale(QLocale::Korean).toString(value, 'f', decimals);
-}
 
 }  // namespace
 
@@ -69,38 +65,22 @@ QString FaultText(const RefusedLine& line) {
     return {};
 }
 
-QString WonText(double won) {
-    return std::isnan(won) ? QStringLiteral("-") : Grouped(won, 0);
-}
-
 QString ChangeText(double won) {
-    if (!(std::abs(won) > 0)) return WonText(won);
-    return (won > 0 ? QStringLiteral("▲ ") : QStringLiteral("▼ ")) + WonText(std::abs(won));
-}
-
-QString CountText(std::int64_t count) {
-    return QLocale(QLocale::Korean).toString(qlonglong{count});
-}
-
-QString PercentText(double percent) {
-    if (std::isnan(percent)) return QStringLiteral("-");
-    return (percent > 0 ? QStringLiteral("+") : QString()) + Grouped(percent, 2);
+    const QString amount = OrDash(WonText(std::abs(won)));
+    if (won > 0) return QStringLiteral("▲ ") + amount;
+    return won < 0 ? QStringLiteral("▼ ") + amount : amount;
 }
 
 std::string Bytes(const QString& text) {
     return TryToCp949(text.toStdString()).value_or(std::string());
 }
 
-QString Text(const std::string& cp949) {
-    return QString::fromStdString(ToUtf8(cp949));
-}
-
 void Tell(host::Questions& questions, const QString& text, const QString& caption, host::Icon icon) {
-    questions.Ask({ToCp949(text.toStdString()), ToCp949(caption.toStdString()), icon});
+    questions.Ask({FromQString(text), FromQString(caption), icon});
 }
 
 bool Agrees(host::Questions& questions, const QString& text, const QString& caption) {
-    return questions.Ask({ToCp949(text.toStdString()), ToCp949(caption.toStdString()), host::Icon::Question,
+    return questions.Ask({FromQString(text), FromQString(caption), host::Icon::Question,
                           host::Buttons::YesNo}) == host::Answer::Yes;
 }
 

@@ -17,15 +17,11 @@ QString WhyNot(service::Verdict verdict);
 // What is wrong with a line of a holdings file, behind its number.
 QString FaultText(const RefusedLine& line);
 
-// "12,345", "▲ 120" and "+1.25"; "-" for a value that isn't known.
-QString WonText(double won);
+// "▲ 120" and "▼ 120"; "-" for a change that isn't known.
 QString ChangeText(double won);
-QString CountText(std::int64_t count);
-QString PercentText(double percent);  // with its sign
 
-// CP949 and back. Text that has no CP949 form is no text: empty, which no name may be.
+// CP949 of a name. Text that has no CP949 form is no text: empty, which no name may be.
 std::string Bytes(const QString& text);
-QString Text(const std::string& cp949);
 
 // A box with one button.
 void Tell(host::Questions& questions, const QString& text, const QString& caption,

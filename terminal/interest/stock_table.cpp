@@ -5,30 +5,16 @@
 #include <QHeaderView>
 #include <QItemSelection>
 #include <QKeyEvent>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
 #include "screen/palette/colors_qt.h"
-#include "terminal/interest/interest_look.h"
+#include "terminal/look/list_look.h"
 
 namespace jogeon::terminal {
 namespace {
 
 constexpr int kLeastNameWidth = 9;  // digits
-
-// A cell's own colour stays when its row is selected.
-class ColoredCells : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const QVariant color = index.data(Qt::ForegroundRole);
-        if (color.isValid()) option->palette.setColor(QPalette::HighlightedText, color.value<QColor>());
-    }
-};
 
 }  // namespace
 
@@ -71,7 +57,6 @@ StockTable::StockTable(std::vector<StockColumn> columns, QWidget* parent)
     : QTableView(parent), model_(new StockTableModel(std::move(columns), this)) {
     setModel(model_);
     setSelectionMode(ExtendedSelection);
-    setItemDelegate(new ColoredCells(this));
     LookLikeList(*this);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     const auto& all = model_->Columns();
@@ -119,8 +104,7 @@ void StockTable::Select(const std::vector<std::string>& codes) {
 }
 
 void StockTable::RefreshColors() {
-    LookLikeList(*this);
-    viewport()->update();
+    TakeListColors(*this);
 }
 
 void StockTable::keyPressEvent(QKeyEvent* event) {

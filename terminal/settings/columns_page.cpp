@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "screen/results/grid_layout.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "screen/transactions/result_columns.h"
 
 namespace jogeon::terminal {
@@ -90,7 +90,7 @@ void ColumnsPage::ShowCurrent() {
 QTreeWidgetItem* ColumnsPage::MakeItem(int index) const {
     const host::GridColumnChoice& column = columns_[static_cast<std::size_t>(index)];
     auto* item = new QTreeWidgetItem;
-    item->setText(kName, QString::fromStdString(ToUtf8(column.name)));
+    item->setText(kName, ToQString(column.name));
     item->setData(kWidth, Qt::DisplayRole, column.width);
     item->setTextAlignment(kWidth, Qt::AlignRight | Qt::AlignVCenter);
     item->setData(kName, kIndexRole, index);

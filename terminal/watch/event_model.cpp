@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/text/cp949_qt.h"
+#include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_table.h"
 #include "terminal/watch/watch_texts.h"
 
@@ -21,7 +23,7 @@ void EventModel::Take(const std::vector<service::WatchEvent>& events) {
     if (lines_.size() + count > kMostLines) DropOldest(lines_.size() + count - kMostLines);
     beginInsertRows({}, 0, static_cast<int>(count) - 1);
     for (auto event = events.end() - static_cast<std::ptrdiff_t>(count); event != events.end(); ++event)
-        lines_.push_front({*event, watch_texts::OfCp949(event->stock.name)});
+        lines_.push_front({*event, ToQString(event->stock.name)});
     endInsertRows();
 }
 
@@ -68,9 +70,9 @@ QString EventModel::Text(const Line& line, int column) const {
         case kName:
             return line.name;
         case kPrice:
-            return watch_texts::Price(line.event.stock.price);
+            return WonText(line.event.stock.price);
         case kChange:
-            return watch_texts::Change(line.event.stock.change);
+            return PercentText(line.event.stock.change);
         default:
             return watch_texts::Flips(line.event);
     }

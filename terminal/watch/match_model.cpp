@@ -5,6 +5,8 @@
 #include <chrono>
 
 #include "screen/palette/colors_qt.h"
+#include "screen/text/cp949_qt.h"
+#include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_table.h"
 #include "terminal/watch/watch_texts.h"
 
@@ -36,7 +38,7 @@ void MatchModel::Take(const std::vector<service::WatchMatch>& matches) {
     beginInsertRows({}, first, first + static_cast<int>(wanted.size()) - 1);
     for (const service::WatchMatch& match : matches)
         if (wanted.count(match.stock.code))
-            rows_.push_back({match, watch_texts::OfCp949(match.stock.name), QDeadlineTimer(kMarkedFor)});
+            rows_.push_back({match, ToQString(match.stock.name), QDeadlineTimer(kMarkedFor)});
     endInsertRows();
 }
 
@@ -108,9 +110,9 @@ QString MatchModel::Text(const Row& row, int column) const {
         case kCode:
             return QString::fromStdString(row.match.stock.code);
         case kPrice:
-            return watch_texts::Price(row.match.stock.price);
+            return WonText(row.match.stock.price);
         case kChange:
-            return watch_texts::Change(row.match.stock.change);
+            return PercentText(row.match.stock.change);
         case kSince:
             return watch_texts::Time(row.match.since);
         default:

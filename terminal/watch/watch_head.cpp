@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "screen/palette/colors_qt.h"
+#include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_texts.h"
 
 namespace jogeon::terminal {
@@ -83,7 +84,7 @@ QLayout* WatchHead::ControlRow() {
 }
 
 void WatchHead::ShowStart(const service::WatchStart& start) {
-    const QString date = watch_texts::Date(start.date);
+    const QString date = DateText(start.date);
     day_->setText(start.replay ? tr("재생: %1").arg(date) : date);
     progress_->setRange(start.opens, start.closes);
     ShowTime(start.opens);

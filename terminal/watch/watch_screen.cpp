@@ -3,8 +3,10 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include "screen/text/cp949_qt.h"
 #include "screen/transactions/condition_header.h"
 #include "terminal/screens/stock_link.h"
+#include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_texts.h"
 
 namespace jogeon::terminal {
@@ -90,7 +92,7 @@ void WatchScreen::Wire() {
     connect(head_, &WatchHead::SpeedChosen, &run_, &WatchRun::SetSpeed);
     connect(&run_, &WatchRun::Opened, this, [this](const service::WatchStart& start) {
         head_->ShowStart(start);
-        const QString date = watch_texts::Date(start.date);
+        const QString date = DateText(start.date);
         day_ = start.replay ? tr("재생: %1").arg(date) : date;
         emit TitleChanged();
     });
@@ -140,7 +142,7 @@ void WatchScreen::OnTagChanged(const std::string& mainKey, const std::string& ta
 void WatchScreen::Watch(const std::string& conditionSet) {
     watched_ = conditionSet;
     const auto header = DecodeConditionHeader(conditionSet);
-    head_->ShowName(header ? watch_texts::OfCp949(header->name) : QString());
+    head_->ShowName(header ? ToQString(header->name) : QString());
     ShowDescription();
     pages_->setCurrentIndex(1);
     Restart();
@@ -148,7 +150,7 @@ void WatchScreen::Watch(const std::string& conditionSet) {
 
 void WatchScreen::ShowDescription() {
     head_->ShowDescription(
-        watch_texts::OfCp949(workplace_.links.NVLink_GetLinkTagData(kMainKey, kDescriptionTag, nullptr)));
+        ToQString(workplace_.links.NVLink_GetLinkTagData(kMainKey, kDescriptionTag, nullptr)));
 }
 
 void WatchScreen::Restart() {
@@ -175,9 +177,9 @@ void WatchScreen::OnState() {
 }
 
 void WatchScreen::ShowCounts() {
-    using watch_texts::Count;
-    counts_->setText(tr("포착 %1종목  ·  편입 %2  ·  이탈 %3  ·  체결 %4건")
-                         .arg(Count(matches_.rowCount()), Count(entered_), Count(left_), Count(ticks_)));
+    counts_->setText(
+        tr("포착 %1종목  ·  편입 %2  ·  이탈 %3  ·  체결 %4건")
+            .arg(CountText(matches_.rowCount()), CountText(entered_), CountText(left_), CountText(ticks_)));
 }
 
 void WatchScreen::Announce(const std::string& code) {

@@ -4,30 +4,15 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include "screen/palette/colors_qt.h"
-#include "screen/palette/header_style_qt.h"
+#include "terminal/look/list_look.h"
 
 namespace jogeon::terminal {
 namespace {
 
-constexpr int kRowPadding = 6;  // pixels beyond the text's height
-constexpr int kHeaderPadding = 9;
+constexpr int kHeaderPadding = 9;  // pixels beyond the text's height
 constexpr int kLeastColumn = 36;
-
-// A price keeps its colour in the row that is selected.
-class CellDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
-        option->state &= ~QStyle::State_HasFocus;  // the row is what is chosen
-    }
-};
 
 }  // namespace
 
@@ -44,23 +29,12 @@ QVariant MoveColor(double percent) {
 }
 
 WatchTable::WatchTable(QWidget* parent) : QTableView(parent) {
-    setItemDelegate(new CellDelegate(this));
-    setSelectionBehavior(SelectRows);
+    LookLikeList(*this);
     setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
-    setAlternatingRowColors(true);
-    setShowGrid(false);
-    setWordWrap(false);
-    setTabKeyNavigation(false);
-    setCornerButtonEnabled(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // columns don't jump when the table fills
-    verticalHeader()->setVisible(false);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setMinimumSectionSize(kLeastColumn);
-    SetRowHeight();
-    RefreshColors();
+    SetHeights();
 }
 
 void WatchTable::SetColumns(QAbstractItemModel& model, const std::vector<int>& widths) {
@@ -85,27 +59,18 @@ void WatchTable::SetEmptyText(const QString& text) {
     viewport()->update();
 }
 
-void WatchTable::SetRowHeight() {
-    const int text = fontMetrics().height();
-    verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(text + kRowPadding);
-    horizontalHeader()->setFixedHeight(text + kHeaderPadding);
+void WatchTable::SetHeights() {
+    FitRows(*this);
+    horizontalHeader()->setFixedHeight(fontMetrics().height() + kHeaderPadding);
 }
 
 void WatchTable::RefreshColors() {
-    horizontalHeader()->setStyleSheet(HeaderStyle());
-    QPalette colors = palette();
-    colors.setColor(QPalette::Base, ToQColor(Color::GridOddRow));
-    colors.setColor(QPalette::AlternateBase, ToQColor(Color::GridEvenRow));
-    colors.setColor(QPalette::Text, ToQColor(Color::GridText));
-    colors.setColor(QPalette::Highlight, ToQColor(Color::GridSelectedRow));
-    setPalette(colors);
-    viewport()->update();
+    TakeListColors(*this);
 }
 
 void WatchTable::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SetRowHeight();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SetHeights();
 }
 
 void WatchTable::paintEvent(QPaintEvent* event) {

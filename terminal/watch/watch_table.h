@@ -34,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void SetRowHeight();
+    void SetHeights();
     void KeepPlace(int inserted);
 
     QString emptyText_;

@@ -1,4 +1,4 @@
-// How the watch writes times, prices and conditions.
+// How the watch writes times and conditions.
 #pragma once
 
 #include <QString>
@@ -8,13 +8,7 @@
 
 namespace jogeon::terminal::watch_texts {
 
-QString OfCp949(const std::string& text);
-
 QString Time(int milliseconds);  // since midnight: "09:31:25"
-QString Date(int date);          // yyyymmdd: "2025-04-30"
-QString Count(qint64 number);    // "1,234,567"
-QString Price(double won);
-QString Change(double percent);  // "+1.25%"; empty where it is unknown
 
 // Letters with points between them: "A·C".
 QString Letters(const std::string& letters);

@@ -6,6 +6,7 @@
 #include "terminal/chart/date_axis.h"
 #include "terminal/chart/study.h"
 #include "terminal/chart/value_scale.h"
+#include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {
 namespace {

@@ -14,6 +14,7 @@
 #include "server/remote/remote_service.h"
 #include "server/service/local_service.h"
 #include "terminal/chart/bar_painter.h"
+#include "terminal/texts/value_texts.h"
 #include "tests/screen/support/recorders.h"
 #include "tests/server/service/requests.h"
 #include "tests/terminal/chart/chart_market.h"
@@ -95,7 +96,7 @@ TEST_F(ChartScreenTest, FollowsTheLinkedStock) {
     EXPECT_EQ(screen_.Title(), "차트 - 가나전자 (000010)");
     EXPECT_EQ(titles.size(), 1);
     EXPECT_EQ(view_->Shown().bars, service_.GetCharts().Bars(test::kSwinging, Timeframe::Day)->bars);
-    EXPECT_EQ(Find<QLineEdit>("stock").text(), "000010 가나전자");
+    EXPECT_EQ(Find<QLineEdit>("stock").text(), "가나전자");
 
     // Two links on end: the answer to the first comes too late.
     links_.NVLink_SetLinkTagData({"ReturnMainKey", "JCODE", test::kPausing});
@@ -121,7 +122,7 @@ TEST_F(ChartScreenTest, TakesAStockByCodeOrName) {
     auto& box = Find<QLineEdit>("stock");
     const std::pair<const char*, const char*> cases[] = {
         {"000030", test::kPausing},   {"가나전자", test::kSwinging}, {"가나전자우", test::kOther},
-        {"다라", test::kPausing},     {"상사", test::kEmpty},        {" 000010 가나전자", test::kSwinging},
+        {"다라", test::kPausing},     {"상사", test::kEmpty},        {"a000010", test::kSwinging},
         {"없는회사", test::kSwinging}};
     for (const auto& [typed, code] : cases) {
         box.setFocus();
@@ -265,13 +266,13 @@ TEST_F(ChartScreenTest, LegendTellsOfTheBarUnderThePointer) {
     };
     const service::ChartBar& bar = view_->Shown().At(4);
     const double before = view_->Shown().At(3).close;
-    const auto number = [](double value) { return chart::NumberText(value); };
+    const auto number = [](double value) { return NumberText(value).toStdString(); };
     const std::vector<std::string> told = texts(4);
     ASSERT_EQ(told.size(), 12u);
-    EXPECT_EQ(told[0], "=" + chart::DateText(bar.date).toStdString());
+    EXPECT_EQ(told[0], "=" + DateText(bar.date).toStdString());
     EXPECT_EQ(told[1], "시=" + number(bar.open));
     EXPECT_EQ(told[4], "종=" + number(bar.close));
-    EXPECT_EQ(told[5], "=" + chart::PercentText(100 * (bar.close - before) / before));
+    EXPECT_EQ(told[5], "=" + PercentText(100 * (bar.close - before) / before).toStdString());
     EXPECT_EQ(told[6], "거래량=" + number(bar.volume));
     EXPECT_EQ(told[8], "MA20=-") << "too early for it";
     EXPECT_EQ(texts(0)[5], "=") << "nothing before the first bar";

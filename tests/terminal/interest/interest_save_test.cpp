@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/host/window_messages_qt.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
 #include "tests/terminal/support/interest_place.h"
 
@@ -112,7 +113,7 @@ TEST_F(InterestSaveTest, ANewGroupTakesTheStocksAndABadNameIsSaid) {
     };
     EXPECT_EQ(Save({"000040", "000010"}), 0);
     ASSERT_EQ(place_.questions.boxes.size(), 1u);
-    EXPECT_EQ(Text(place_.questions.boxes[0].text), WhyNot(service::Verdict::NameInUse));
+    EXPECT_EQ(ToQString(place_.questions.boxes[0].text), WhyNot(service::Verdict::NameInUse));
     name = "검색 결과";
     EXPECT_EQ(Save({"000040", "000010"}), 1);
     EXPECT_EQ(place_.NameOf("504"), "검색 결과");
@@ -131,7 +132,7 @@ TEST_F(InterestSaveTest, NothingToSaveACancelAndAGroupThatIsGone) {
         Click(dialog, "save");
     };
     EXPECT_EQ(Save({"000040"}), 0);
-    EXPECT_EQ(Text(place_.questions.boxes.back().text), WhyNot(service::Verdict::NoSuchGroup));
+    EXPECT_EQ(ToQString(place_.questions.boxes.back().text), WhyNot(service::Verdict::NoSuchGroup));
 }
 
 TEST_F(InterestSaveTest, MoreThanAGroupHoldsCantBeChosen) {

@@ -90,9 +90,9 @@ protected:
 TEST_F(InterestScreenTest, ShowsGroupsAndStocksWithTheirLastDay) {
     EXPECT_EQ(GroupNames(), (QStringList{"대형주", "거래대금 상위", "저가주"}));
     EXPECT_EQ(Groups().topLevelItem(0)->text(1), "3");
-    EXPECT_EQ(Row("stocks", 0), "가전자|000010|50,000|▲ 10|+0.02");
+    EXPECT_EQ(Row("stocks", 0), "가전자|000010|50,000|▲ 10|+0.02%");
     ClickGroup(2);
-    EXPECT_EQ(Row("stocks", 0), "바반도체|100020|800|▲ 10|+1.27");
+    EXPECT_EQ(Row("stocks", 0), "바반도체|100020|800|▲ 10|+1.27%");
     EXPECT_EQ(place_.links.NVLink_GetAccountCount(), 2) << "for screens that choose an account";
 }
 
@@ -265,7 +265,7 @@ TEST_F(HoldingsImportTest, AFileWithRefusedLinesIsTakenOnlyWhenTheUserSaysSo) {
     EXPECT_EQ(place_.Portfolios().Accounts(InterestPlace::kUser).back(),
               (service::HeldAccount{"12345678901", {{"000010", 2, 40000}, {"100020", 3, 0}}}));
     EXPECT_EQ(Get<QComboBox>("accounts").currentText(), "12345678-901");
-    EXPECT_EQ(Row("holdings", 0), "가전자|000010|2|40,000|100,000|+25.00");
+    EXPECT_EQ(Row("holdings", 0), "가전자|000010|2|40,000|100,000|+25.00%");
     EXPECT_EQ(Row("holdings", 1), "바반도체|100020|3|-|2,400|-");
     EXPECT_EQ(Get<QLabel>("holdingsTotal").text(), "2종목  ·  평가금액 합계 102,400원");
 

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "screen/transactions/search_reply.h"
 #include "server/service/local_service.h"
 #include "tests/screen/support/recorders.h"
@@ -188,7 +188,7 @@ TEST_F(WatchScreenTest, ClickAnnouncesTheStockAndADoubleClickAsksForItsChart) {
             told.clear();
             QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, CellOf(*table, row));
             const std::string shown = announced();
-            EXPECT_EQ(QString::fromStdString(ToUtf8(service_.StockName(shown.substr(0, 6)))), name);
+            EXPECT_EQ(ToQString(service_.StockName(shown.substr(0, 6))), name);
             EXPECT_EQ(shown.substr(0, 6), shown.substr(7));
             ASSERT_EQ(told.count(), 1);
             EXPECT_EQ(told[0][0].value<std::string>() + "/" + told[0][1].value<std::string>(),

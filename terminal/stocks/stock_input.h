@@ -5,7 +5,7 @@
 #include <QStringListModel>
 #include <string>
 
-#include "terminal/interest/stock_index.h"
+#include "terminal/stocks/stock_index.h"
 
 class QCompleter;
 
@@ -20,24 +20,28 @@ public:
     // The stocks to choose from. `stocks` is used until the next call.
     void SetStocks(const StockIndex& stocks);
 
-    // Takes what is written: a stock's whole name or code, or the only stock that fits. Enter does it, too.
+    // Puts in a stock's name, or its code if it has none.
+    void ShowStock(const QString& code, const QString& name);
+
+    // Takes what is written: a stock's whole name or code, or the only stock that fits; while no stocks are
+    // known, any code. Enter does it, too.
     void TakeText();
 
     // The list below, in these colours.
     void SetListPalette(const QPalette& palette);
 
 signals:
-    // The line is empty again by the time the next event is handled.
+    // The line still shows what was chosen, and will with the next event where that was in the list below.
     void Chosen(const std::string& code);
 
-    // What is written is no stock, or could be several.
+    // What is written fits no stock.
     void Missed(const QString& text);
 
 private:
     void Choose(const QString& entry);
 
     const StockIndex* stocks_ = nullptr;
-    QStringListModel entries_;  // "삼성전자  005930"
+    QStringListModel entries_;  // "한빛전자  000010"
     QCompleter* completer_;     // a child
 };
 

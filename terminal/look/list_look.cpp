@@ -1,8 +1,9 @@
-#include "terminal/interest/interest_look.h"
+#include "terminal/look/list_look.h"
 
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTreeWidget>
 
@@ -29,6 +30,18 @@ int RowHeight(const QWidget& list) {
     return list.fontMetrics().height() + kRowPadding;
 }
 
+class ListCells : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+        option->state &= ~QStyle::State_HasFocus;  // the row is what is chosen
+    }
+};
+
 }  // namespace
 
 QPalette ListPalette() {
@@ -39,6 +52,7 @@ QPalette ListPalette() {
 }
 
 void LookLikeList(QTableView& table) {
+    table.setItemDelegate(new ListCells(&table));
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table.setAlternatingRowColors(true);
@@ -48,10 +62,21 @@ void LookLikeList(QTableView& table) {
     table.setCornerButtonEnabled(false);
     table.verticalHeader()->hide();
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table.verticalHeader()->setDefaultSectionSize(RowHeight(table));
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setSectionsClickable(false);
+    FitRows(table);
+    TakeListColors(table);
+}
+
+void TakeListColors(QTableView& table) {
+    table.setPalette(ListPalette());
     table.horizontalHeader()->setStyleSheet(HeaderStyle());
+    table.viewport()->update();
+}
+
+void FitRows(QTableView& table) {
+    table.verticalHeader()->setMinimumSectionSize(1);
+    table.verticalHeader()->setDefaultSectionSize(RowHeight(table));
 }
 
 void LookLikeList(QTreeView& tree) {

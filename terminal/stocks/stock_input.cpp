@@ -1,15 +1,16 @@
-#include "terminal/interest/stock_input.h"
+#include "terminal/stocks/stock_input.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
 
+#include "screen/text/cp949_qt.h"
 #include "server/market/instrument_code.h"
-#include "terminal/interest/portfolio_texts.h"
 
 namespace jogeon::terminal {
 namespace {
 
 constexpr int kMostShown = 12;
+
 
 }  // namespace
 
@@ -33,8 +34,13 @@ void StockInput::SetStocks(const StockIndex& stocks) {
     if (entries_.rowCount() == static_cast<int>(stocks.All().size())) return;
     QStringList entries;
     for (const service::StockEntry& stock : stocks.All())
-        entries += Text(stock.name) + QStringLiteral("  ") + Text(stock.code);
+        entries += ToQString(stock.name) + QStringLiteral("  ") + ToQString(stock.code);
     entries_.setStringList(entries);
+}
+
+void StockInput::ShowStock(const QString& code, const QString& name) {
+    setText(name.isEmpty() ? code : name);
+    setCursorPosition(0);
 }
 
 void StockInput::SetListPalette(const QPalette& palette) {
@@ -44,20 +50,20 @@ void StockInput::SetListPalette(const QPalette& palette) {
 void StockInput::TakeText() {
     const QString written = text().trimmed();
     if (!stocks_ || written.isEmpty()) return;
-    const std::string bytes = Bytes(written);
+    if (stocks_->All().empty() && market::IsInstrumentCode(written.toUpper().toStdString()))
+        return Choose(written.toUpper());
+    const std::string bytes = FromQString(written);
     const service::StockEntry* stock = stocks_->ByName(bytes);
     if (!stock) stock = stocks_->ByWrittenCode(bytes);
-    if (stock) return Choose(Text(stock->code));
+    if (stock) return Choose(ToQString(stock->code));
     completer_->setCompletionPrefix(written);
     if (completer_->completionCount() == 1) return Choose(completer_->currentCompletion());
     if (completer_->completionCount() > 1) return completer_->complete();
     emit Missed(written);
 }
 
-// The completer writes its entry into the line behind this.
 void StockInput::Choose(const QString& entry) {
     emit Chosen(entry.right(static_cast<int>(market::kCodeLength)).toStdString());
-    QMetaObject::invokeMethod(this, &QLineEdit::clear, Qt::QueuedConnection);
 }
 
 }  // namespace jogeon::terminal

@@ -1,4 +1,4 @@
-#include "terminal/interest/stock_index.h"
+#include "terminal/stocks/stock_index.h"
 
 #include <algorithm>
 #include <set>

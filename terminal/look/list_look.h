@@ -1,4 +1,4 @@
-// The look of the interest window and its dialogs, of the screen's own colours.
+// The look of lists and tables, and of the buttons under them, in the screens' own colours.
 #pragma once
 
 #include <QPalette>
@@ -14,9 +14,15 @@ namespace jogeon::terminal {
 // The windows' palette of the theme that holds now, with the colours of lists.
 QPalette ListPalette();
 
-// A list of whole rows with a header, in these colours.
+// A list of whole rows with a header, in these colours. A cell's own colour stays when its row is selected.
 void LookLikeList(QTableView& table);
 void LookLikeList(QTreeView& tree);
+
+// Another theme holds now.
+void TakeListColors(QTableView& table);
+
+// Another font does: rows as high as its text needs.
+void FitRows(QTableView& table);
 
 // Gives the row of a tree the height that rows of tables have.
 void LookLikeRow(QTreeWidgetItem& item);
