@@ -12,6 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/textbook.h"
 #include "screen/condition/index_info.h"
 #include "screen/target/search_target.h"
 #include "screen/text/bytes.h"
@@ -27,6 +28,10 @@ namespace {
 using market::Bars;
 using market::PriceField;
 using market::Timeframe;
+using textbook::MeanBefore;
+using textbook::Rsi;
+using textbook::Run;
+using textbook::RunOf;
 
 constexpr int kAverageDays = 20;
 constexpr int kRsiDays = 14;
@@ -125,46 +130,6 @@ void Warm(benchmark::State& state, const std::string& payload) {
     state.counters["found"] = total;
 }
 
-// The unbroken run of bars of one stock that ends with the last day, oldest first.
-struct Run {
-    std::vector<double> close;
-    std::vector<double> volume;
-};
-
-Run RunOf(const Bars& days, std::size_t stock) {
-    Run run;
-    int first = days.Count();
-    while (first > 0 && !std::isnan(days.Row(PriceField::Close, first - 1)[stock])) --first;
-    for (int bar = first; bar < days.Count(); ++bar) {
-        run.close.push_back(days.Row(PriceField::Close, bar)[stock]);
-        run.volume.push_back(days.Row(PriceField::Volume, bar)[stock]);
-    }
-    return run;
-}
-
-double MeanBefore(const std::vector<double>& values, std::size_t end, std::size_t n) {
-    double sum = 0;
-    for (std::size_t i = end - n; i < end; ++i) sum += values[i];
-    return sum / static_cast<double>(n);
-}
-
-double Rsi(const std::vector<double>& close, std::size_t n) {
-    double up = 0;
-    double down = 0;
-    for (std::size_t i = 1; i < close.size(); ++i) {
-        const double rise = std::max(close[i] - close[i - 1], 0.0);
-        const double fall = std::max(close[i - 1] - close[i], 0.0);
-        if (i <= n) {
-            up += rise / static_cast<double>(n);
-            down += fall / static_cast<double>(n);
-        } else {
-            up += (rise - up) / static_cast<double>(n);
-            down += (fall - down) / static_cast<double>(n);
-        }
-    }
-    return 100 * up / (up + down);
-}
-
 bool MatchesFive(const Run& run) {
     const std::size_t size = run.close.size();
     if (size < kAverageDays + 1) return false;
@@ -182,7 +147,7 @@ void StockByStock(benchmark::State& state) {
     for (auto _ : state) {
         found = 0;
         for (std::size_t stock = 0; stock < TheMarket()->Instruments().size(); ++stock)
-            found += MatchesFive(RunOf(days, stock));
+            found += MatchesFive(RunOf(days, stock, days.Count()));
         benchmark::DoNotOptimize(found);
     }
     service::SearchService service(TheMarket());

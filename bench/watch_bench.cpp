@@ -14,6 +14,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/textbook.h"
 #include "screen/text/bytes.h"
 #include "server/engine/search.h"
 #include "server/market/generated_market.h"
@@ -30,6 +31,9 @@ using market::Bar;
 using market::Bars;
 using market::PriceField;
 using market::Timeframe;
+using textbook::MeanBefore;
+using textbook::Rsi;
+using textbook::RunOf;
 using watch::Tick;
 
 constexpr int kStocks = 2'700;
@@ -163,10 +167,8 @@ void Watch(benchmark::State& state, const Pairs& pairs) {
     state.counters["matching"] = static_cast<double>(news.matches.size());
 }
 
-// The unbroken run of bars of one stock up to its forming day, oldest first.
-struct Run {
-    std::vector<double> close;
-    std::vector<double> volume;
+// The bars of one stock up to its forming day.
+struct Forming : textbook::Run {
     std::uint32_t truths = 0;
 
     void Take(const Tick& tick) {
@@ -175,44 +177,21 @@ struct Run {
     }
 };
 
-std::vector<Run> OpenedRuns(const std::vector<Tick>& opening) {
+std::vector<Forming> OpenedRuns(const std::vector<Tick>& opening) {
     const Bars& days = TheMarket()->BarsOf(Timeframe::Day);
-    std::vector<Run> runs(static_cast<std::size_t>(days.Instruments()));
+    std::vector<Forming> runs(static_cast<std::size_t>(days.Instruments()));
     for (const Tick& tick : opening) {
         const auto stock = static_cast<std::size_t>(tick.stock);
-        int first = days.Count() - 1;
-        while (first > 0 && !std::isnan(days.Row(PriceField::Close, first - 1)[stock])) --first;
-        for (int day = first; day < days.Count() - 1; ++day) {
-            runs[stock].close.push_back(days.Row(PriceField::Close, day)[stock]);
-            runs[stock].volume.push_back(days.Row(PriceField::Volume, day)[stock]);
-        }
+        runs[stock] = {RunOf(days, stock, days.Count() - 1)};
         runs[stock].close.push_back(tick.price);
         runs[stock].volume.push_back(tick.volume);
     }
     return runs;
 }
 
-double MeanBefore(const std::vector<double>& values, std::size_t end, std::size_t n) {
-    double sum = 0;
-    for (std::size_t i = end - n; i < end; ++i) sum += values[i];
-    return sum / static_cast<double>(n);
-}
-
-double Rsi(const std::vector<double>& close, std::size_t n) {
-    double up = 0;
-    double down = 0;
-    for (std::size_t i = 1; i < close.size(); ++i) {
-        const double rise = std::max(close[i] - close[i - 1], 0.0);
-        const double fall = std::max(close[i - 1] - close[i], 0.0);
-        up = i <= n ? up + rise / static_cast<double>(n) : up + (rise - up) / static_cast<double>(n);
-        down = i <= n ? down + fall / static_cast<double>(n) : down + (fall - down) / static_cast<double>(n);
-    }
-    return 100 * up / (up + down);
-}
-
 // The truth of each condition of OrderOf for one stock, as a bit set: which of them turned is asked for, so
 // that none can be left out.
-std::uint32_t Truths(const Run& run, const Pairs& pairs) {
+std::uint32_t Truths(const Forming& run, const Pairs& pairs) {
     std::uint32_t truths = 0;
     const std::size_t size = run.close.size();
     const auto add = [&truths](bool holds) { truths = truths << 1 | (holds ? 1 : 0); };
@@ -238,21 +217,21 @@ bool Matches(std::uint32_t truths, const Pairs& pairs) {
 
 void StockAloneAfterEachTick(benchmark::State& state, const Pairs& pairs) {
     SteadyFeed feed;
-    std::vector<Run> runs = OpenedRuns(Opening(feed));
-    for (Run& run : runs) run.truths = Truths(run, pairs);
+    std::vector<Forming> runs = OpenedRuns(Opening(feed));
+    for (Forming& run : runs) run.truths = Truths(run, pairs);
     std::vector<Tick> ticks;
     for (auto _ : state)
         for (int batch = 0; batch < kBatches; ++batch) {
             ticks.clear();
             feed.Take(0, ticks);
             for (const Tick& tick : ticks) {
-                Run& run = runs[static_cast<std::size_t>(tick.stock)];
+                Forming& run = runs[static_cast<std::size_t>(tick.stock)];
                 run.Take(tick);
                 run.truths = Truths(run, pairs);
             }
         }
-    const auto matching =
-        std::count_if(runs.begin(), runs.end(), [&](const Run& run) { return Matches(run.truths, pairs); });
+    const auto matching = std::count_if(runs.begin(), runs.end(),
+                                        [&](const Forming& run) { return Matches(run.truths, pairs); });
     state.counters["matching"] = static_cast<double>(matching);
 }
 

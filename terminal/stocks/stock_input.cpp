@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kMostShown = 12;
 
-
 }  // namespace
 
 StockInput::StockInput(QWidget* parent) : QLineEdit(parent), completer_(new QCompleter(this)) {
