@@ -39,8 +39,8 @@ public:
     MainWindow& Window() { return window_; }
     ScreenDesk& Desk() { return *desk_; }
 
-    // Whether the service has answered all that the screen asked.
-    bool Idle() const { return communication_.Idle(); }
+    // Whether the service has answered all that the screen asked, and no save of its stocks is under way.
+    bool Idle() const { return communication_.Idle() && interests_.Idle(); }
 
     // Where the screen's published tags and codes are.
     Links& SharedLinks() { return links_; }

@@ -10,6 +10,12 @@ bool IsBlank(char c) {
     return c == ' ' || c == '\t';
 }
 
+// A tab is none where it separates.
+std::string_view CutBlanksBefore(std::string_view text, char separator) {
+    while (!text.empty() && IsBlank(text.front()) && text.front() != separator) text.remove_prefix(1);
+    return text;
+}
+
 std::string_view CutBlanks(std::string_view text) {
     while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
@@ -21,30 +27,31 @@ constexpr std::size_t kExactDigits = 15;
 
 }  // namespace
 
-bool CsvFields::Split(std::string_view line) {
+bool CsvFields::Split(std::string_view line, char separator) {
     fields_.clear();
-    if (line.find('"') != std::string_view::npos) return SplitQuoted(line);
+    if (line.find('"') != std::string_view::npos) return SplitQuoted(line, separator);
     std::size_t begin = 0;
-    for (std::size_t comma = line.find(','); comma != std::string_view::npos; comma = line.find(',', begin)) {
-        fields_.push_back(CutBlanks(line.substr(begin, comma - begin)));
-        begin = comma + 1;
+    for (std::size_t end = line.find(separator); end != std::string_view::npos;
+         end = line.find(separator, begin)) {
+        fields_.push_back(CutBlanks(line.substr(begin, end - begin)));
+        begin = end + 1;
     }
     fields_.push_back(CutBlanks(line.substr(begin)));
     return true;
 }
 
-bool CsvFields::SplitQuoted(std::string_view line) {
+bool CsvFields::SplitQuoted(std::string_view line, char separator) {
     unquoted_.clear();
     unquoted_.reserve(line.size());  // so that the fields in it never move
     while (true) {
-        while (!line.empty() && IsBlank(line.front())) line.remove_prefix(1);
+        line = CutBlanksBefore(line, separator);
         if (!line.starts_with('"')) {
-            const std::size_t comma = line.find(',');
-            const std::string_view field = CutBlanks(line.substr(0, comma));
+            const std::size_t end = line.find(separator);
+            const std::string_view field = CutBlanks(line.substr(0, end));
             if (field.find('"') != std::string_view::npos) return false;
             fields_.push_back(field);
-            if (comma == std::string_view::npos) return true;
-            line.remove_prefix(comma + 1);
+            if (end == std::string_view::npos) return true;
+            line.remove_prefix(end + 1);
             continue;
         }
         const std::size_t begin = unquoted_.size();
@@ -58,9 +65,9 @@ bool CsvFields::SplitQuoted(std::string_view line) {
             line.remove_prefix(1);
         }
         fields_.push_back(CutBlanks(std::string_view(unquoted_).substr(begin)));
-        line = CutBlanks(line);
+        line = CutBlanksBefore(line, separator);
         if (line.empty()) return true;
-        if (line.front() != ',') return false;
+        if (line.front() != separator) return false;
         line.remove_prefix(1);
     }
 }

@@ -64,7 +64,8 @@ Status PortfolioCalls::Reorder(ServerContext* context, const StocksRequest* requ
 
 Status PortfolioCalls::SetStocks(ServerContext* context, const StocksRequest* request, VerdictReply* reply) {
     return Answer(*context, *request, *reply, [&] {
-        return portfolios_.SetStocks(request->user(), request->code(), ToVector(request->codes()));
+        return portfolios_.SetStocks(request->user(), request->code(), ToVector(request->before()),
+                                     ToVector(request->codes()));
     });
 }
 

@@ -4,7 +4,7 @@
 namespace jogeon::remote {
 
 // The number of the protocol, sent in every call's metadata under this name.
-inline constexpr int kProtocol = 2;
+inline constexpr int kProtocol = 3;
 inline constexpr char kProtocolEntry[] = "jogeon-protocol";
 
 // Keeps the library's own remarks from standard error: what the user needs to know is told in our lines.

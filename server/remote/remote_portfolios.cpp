@@ -71,10 +71,12 @@ Verdict RemotePortfolios::Reorder(const std::string& user, const std::vector<std
 }
 
 Verdict RemotePortfolios::SetStocks(const std::string& user, const std::string& code,
+                                    const std::vector<std::string>& before,
                                     const std::vector<std::string>& stocks) {
     StocksRequest asked;
     asked.set_user(user);
     asked.set_code(code);
+    asked.mutable_before()->Assign(before.begin(), before.end());
     asked.mutable_codes()->Assign(stocks.begin(), stocks.end());
     return Command(&Stub::SetStocks, asked);
 }

@@ -23,6 +23,7 @@ public:
     service::Verdict Delete(const std::string& user, const std::string& code) override;
     service::Verdict Reorder(const std::string& user, const std::vector<std::string>& codes) override;
     service::Verdict SetStocks(const std::string& user, const std::string& code,
+                               const std::vector<std::string>& before,
                                const std::vector<std::string>& stocks) override;
     std::vector<service::HeldAccount> Accounts(const std::string& user) override;
     service::Verdict SetHoldings(const std::string& user, const std::string& account,

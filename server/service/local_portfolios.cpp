@@ -49,8 +49,9 @@ Verdict LocalPortfolios::Reorder(const std::string& user, const std::vector<std:
 }
 
 Verdict LocalPortfolios::SetStocks(const std::string& user, const std::string& code,
+                                   const std::vector<std::string>& before,
                                    const std::vector<std::string>& stocks) {
-    return Do(user, [&](store::Portfolio& all) { return rules_.SetStocks(all, code, stocks); });
+    return Do(user, [&](store::Portfolio& all) { return rules_.SetStocks(all, code, before, stocks); });
 }
 
 std::vector<HeldAccount> LocalPortfolios::Accounts(const std::string& user) {

@@ -25,6 +25,7 @@ public:
     Verdict Delete(const std::string& user, const std::string& code) override;
     Verdict Reorder(const std::string& user, const std::vector<std::string>& codes) override;
     Verdict SetStocks(const std::string& user, const std::string& code,
+                      const std::vector<std::string>& before,
                       const std::vector<std::string>& stocks) override;
     std::vector<HeldAccount> Accounts(const std::string& user) override;
     Verdict SetHoldings(const std::string& user, const std::string& account,

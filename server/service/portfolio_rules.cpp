@@ -113,10 +113,12 @@ Verdict PortfolioRules::Reorder(Portfolio& portfolio, const std::vector<std::str
 }
 
 Verdict PortfolioRules::SetStocks(Portfolio& portfolio, const std::string& code,
+                                  const std::vector<std::string>& before,
                                   const std::vector<std::string>& stocks) const {
     const auto group = FindGroup(portfolio, code);
     if (group == portfolio.groups.end()) return Verdict::NoSuchGroup;
-    const Verdict verdict = JudgeStocks(stocks, group->stocks);
+    if (group->stocks != before) return Verdict::StocksChanged;
+    const Verdict verdict = JudgeStocks(stocks, before);
     if (verdict == Verdict::Taken) group->stocks = stocks;
     return verdict;
 }

@@ -22,7 +22,7 @@ public:
     Verdict Delete(store::Portfolio& portfolio, const std::string& code) const;
     Verdict Reorder(store::Portfolio& portfolio, const std::vector<std::string>& codes) const;
     Verdict SetStocks(store::Portfolio& portfolio, const std::string& code,
-                      const std::vector<std::string>& stocks) const;
+                      const std::vector<std::string>& before, const std::vector<std::string>& stocks) const;
     Verdict SetHoldings(store::Portfolio& portfolio, const std::string& account,
                         const std::vector<Holding>& holdings) const;
     Verdict RemoveAccount(store::Portfolio& portfolio, const std::string& account) const;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -43,9 +44,10 @@ enum class Verdict {
     BadAccount,       // its number isn't eleven digits
     TooManyAccounts,  // he has 20
     NoSuchAccount,
-    BadHolding,  // its quantity isn't from 1 to a billion, or its price isn't from 0 to a trillion won
+    BadHolding,     // its quantity isn't from 1 to a billion, or its price isn't from 0 to a trillion won
+    StocksChanged,  // the group no longer has the stocks that the change is based on
 };
-inline constexpr int kVerdicts = static_cast<int>(Verdict::BadHolding) + 1;
+inline constexpr int kVerdicts = static_cast<int>(Verdict::StocksChanged) + 1;
 
 struct Addition {
     Verdict verdict{};
@@ -82,9 +84,16 @@ public:
     // Puts the groups in this order of their codes.
     virtual Verdict Reorder(const std::string& user, const std::vector<std::string>& codes) = 0;
 
-    // A stock that the market no longer has may stay where it is, but not be added.
+    // Gives a group that has the stocks `before` these `stocks`; one that has others by now stays as it is. A
+    // stock that the market no longer has may stay where it is, but not be added.
     virtual Verdict SetStocks(const std::string& user, const std::string& code,
+                              const std::vector<std::string>& before,
                               const std::vector<std::string>& stocks) = 0;
+
+    // Lets `edit` change the stocks that the group has now. It is called again with those that the group has
+    // then, if another terminal was faster.
+    using StockEdit = std::function<void(std::vector<std::string>& stocks)>;
+    Verdict EditStocks(const std::string& user, const std::string& code, const StockEdit& edit);
 
     virtual std::vector<HeldAccount> Accounts(const std::string& user) = 0;
 

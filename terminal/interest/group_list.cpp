@@ -28,13 +28,14 @@ std::string CodeOf(const QTreeWidgetItem& item) {
 }  // namespace
 
 GroupList::GroupList(PortfolioBook& book, host::Questions& questions, QWidget* parent)
-    : QWidget(parent), book_(book), questions_(questions), groups_(new QTreeWidget) {
+    : QWidget(parent), book_(book), questions_(questions), groups_(new GroupTree) {
     MakeList();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(groups_);
     layout->addLayout(MakeButtons());
     connect(&book_, &PortfolioBook::Changed, this, &GroupList::ShowGroups);
+    connect(&book_, &PortfolioBook::Failed, this, &GroupList::ShowGroups);  // a name that wasn't stored
 }
 
 void GroupList::MakeList() {
@@ -48,6 +49,7 @@ void GroupList::MakeList() {
     connect(groups_, &QTreeWidget::itemSelectionChanged, this, &GroupList::OnSelected);
     connect(groups_, &QTreeWidget::itemDoubleClicked, this, &GroupList::RenameGroup);
     connect(groups_, &QTreeWidget::itemChanged, this, &GroupList::OnNameEdited);
+    connect(groups_, &GroupTree::RowDropped, this, &GroupList::DropGroup);
     AddKey(Qt::Key_F2, &GroupList::RenameGroup);
     AddKey(Qt::Key_Delete, &GroupList::DeleteGroup);
 }
@@ -121,7 +123,7 @@ void GroupList::ListGroups() {
     const int place = groups_->indexOfTopLevelItem(groups_->currentItem());
     groups_->clear();
     for (const service::InterestGroup& group : book_.Groups()) {
-        auto* item = new QTreeWidgetItem(groups_, {ToQString(group.name)});
+        QTreeWidgetItem* item = groups_->AddRow({ToQString(group.name)});
         item->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(kName, kCodeRole, QString::fromStdString(group.code));
         item->setFlags(item->flags() | Qt::ItemIsEditable);
@@ -182,10 +184,26 @@ void GroupList::DeleteGroup() {
 }
 
 void GroupList::MoveGroup(int by) {
+    std::vector<std::string> order = Order();
+    MoveWithin(order, {chosen_}, by);
+    Reorder(std::move(order));
+}
+
+void GroupList::DropGroup(int place) {
+    std::vector<std::string> order = Order();
+    MoveTo(order, chosen_, place);
+    Reorder(std::move(order));
+}
+
+std::vector<std::string> GroupList::Order() const {
     std::vector<std::string> order;
     for (const service::InterestGroup& group : book_.Groups()) order.push_back(group.code);
-    MoveWithin(order, {chosen_}, by);
-    book_.Do([order](service::Portfolios& portfolios, const std::string& user) -> service::Addition {
+    return order;
+}
+
+void GroupList::Reorder(std::vector<std::string> order) {
+    book_.Do([order = std::move(order)](service::Portfolios& portfolios,
+                                        const std::string& user) -> service::Addition {
         return {portfolios.Reorder(user, order), {}};
     });
 }

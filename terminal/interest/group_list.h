@@ -4,9 +4,9 @@
 #pragma once
 
 #include <QPushButton>
-#include <QTreeWidget>
 #include <QWidget>
 
+#include "terminal/interest/group_tree.h"
 #include "terminal/interest/portfolio_book.h"
 
 namespace jogeon::terminal {
@@ -43,6 +43,9 @@ private:
     void RenameGroup();
     void DeleteGroup();
     void MoveGroup(int by);
+    void DropGroup(int place);
+    std::vector<std::string> Order() const;
+    void Reorder(std::vector<std::string> order);
 
     PortfolioBook& book_;
     host::Questions& questions_;
@@ -50,7 +53,7 @@ private:
     std::string awaited_;   // a group to be chosen
     bool showing_ = false;  // the list is being written, so that its changes aren't the user's
     // Children of this widget.
-    QTreeWidget* groups_;
+    GroupTree* groups_;
     std::vector<QPushButton*> buttons_;  // that need a group
 };
 

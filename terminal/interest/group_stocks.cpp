@@ -78,8 +78,8 @@ QLayout* GroupStocks::MakeFoot() {
 }
 
 void GroupStocks::ConnectParts() {
-    connect(input_, &StockInput::Chosen, this, [this](const std::string& code) { AddStocks({code}); });
-    connect(input_, &StockInput::Chosen, input_, &QLineEdit::clear, Qt::QueuedConnection);
+    connect(input_, &StockInput::Chosen, this, &GroupStocks::AddChosen);
+    connect(input_, &StockInput::Chosen, input_, &QLineEdit::selectAll, Qt::QueuedConnection);
     connect(input_, &StockInput::Missed, this, [this](const QString& text) {
         Tell(questions_, tr("'%1'에 맞는 종목이 없습니다.").arg(text), tr("종목 추가"));
     });
@@ -117,6 +117,13 @@ void GroupStocks::EnableButtons() {
     input_->setEnabled(hasGroup);
 }
 
+// The text stays until its stock is in, and longer if another one is being written by then.
+void GroupStocks::AddChosen(const std::string& code) {
+    adding_ = code;
+    input_->setModified(false);
+    AddStocks({code});
+}
+
 void GroupStocks::AddStocks(const std::vector<std::string>& codes) {
     book_.EditStocks(
         group_,
@@ -124,7 +131,10 @@ void GroupStocks::AddStocks(const std::vector<std::string>& codes) {
             for (const std::string& code : codes)
                 if (std::find(stocks.begin(), stocks.end(), code) == stocks.end()) stocks.push_back(code);
         },
-        [this, codes](const service::Addition&) { stocks_->Select(codes); });
+        [this, codes](const service::Addition&) {
+            stocks_->Select(codes);
+            if (codes.back() == adding_ && !input_->isModified()) input_->clear();
+        });
 }
 
 void GroupStocks::RemoveStocks() {

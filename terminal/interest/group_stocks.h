@@ -35,6 +35,7 @@ private:
     void EnableButtons();
 
     void AddStocks(const std::vector<std::string>& codes);
+    void AddChosen(const std::string& code);
     void RemoveStocks();
     void MoveStocks(int by);
     void Paste();
@@ -43,6 +44,7 @@ private:
     PortfolioBook& book_;
     host::Questions& questions_;
     std::string group_;
+    std::string adding_;  // the stock that the input was left with
     // Children of this widget.
     StockInput* input_;
     StockTable* stocks_;

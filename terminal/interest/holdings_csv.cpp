@@ -20,6 +20,7 @@ using market::SourceText;
 using service::Holding;
 using service::StockEntry;
 
+constexpr char kSeparators[] = {',', ';', '\t'};
 constexpr long kHeaderWithin = 30;     // lines
 constexpr double kMostQuantity = 1e9;  // what the service takes of one stock
 constexpr std::size_t kThousands = 3;  // digits behind a separator
@@ -46,10 +47,10 @@ std::string PlainTitle(std::string_view utf8) {
 }
 
 // A field that a spreadsheet was told to keep as text, ="005930", is the text in quotes.
-std::string WithoutEquals(std::string_view line) {
+std::string WithoutEquals(std::string_view line, char separator) {
     std::string text;
     for (std::size_t i = 0; i < line.size(); ++i) {
-        const bool begins = i == 0 || line[i - 1] == ',';
+        const bool begins = i == 0 || line[i - 1] == separator;
         if (begins && line.substr(i).starts_with("=\"")) continue;
         text += line[i];
     }
@@ -95,10 +96,13 @@ private:
     // Also true for a line that can't be taken apart.
     bool NextLine() {
         const std::optional<std::string_view> line = lines_.Next();
-        if (!line) return false;
-        line_ = WithoutEquals(*line);
-        whole_ = fields_.Split(line_);
-        return true;
+        if (line) TakeApart(*line);
+        return line.has_value();
+    }
+
+    void TakeApart(std::string_view line) {
+        line_ = WithoutEquals(line, separator_);
+        whole_ = fields_.Split(line_, separator_);
     }
 
     bool IsEmpty() const { return whole_ && IsEmptyFrom(0); }
@@ -110,18 +114,27 @@ private:
     }
 
     bool FindHeader() {
-        while (lines_.Number() < kHeaderWithin && NextLine()) {
-            if (!whole_) continue;
-            titles_.clear();
-            for (std::size_t at = 0; at < fields_.Count(); ++at)
-                titles_.push_back(PlainTitle(text_.Decode(fields_[at])));
-            code_ = ColumnOf(kCodeNames);
-            name_ = ColumnOf(kNameNames);
-            quantity_ = ColumnOf(kQuantityNames);
-            price_ = ColumnOf(kPriceNames);
-            if ((code_ || name_) && quantity_) return true;
+        while (lines_.Number() < kHeaderWithin) {
+            const std::optional<std::string_view> line = lines_.Next();
+            if (!line) return false;
+            for (char separator : kSeparators) {
+                separator_ = separator;
+                TakeApart(*line);
+                if (whole_ && IsHeader()) return true;
+            }
         }
         return false;
+    }
+
+    bool IsHeader() {
+        titles_.clear();
+        for (std::size_t at = 0; at < fields_.Count(); ++at)
+            titles_.push_back(PlainTitle(text_.Decode(fields_[at])));
+        code_ = ColumnOf(kCodeNames);
+        name_ = ColumnOf(kNameNames);
+        quantity_ = ColumnOf(kQuantityNames);
+        price_ = ColumnOf(kPriceNames);
+        return (code_ || name_) && quantity_;
     }
 
     std::optional<std::size_t> ColumnOf(Names names) const {
@@ -178,6 +191,7 @@ private:
     market::TextLines lines_;
     const StockIndex& stocks_;
     SourceText text_;
+    char separator_ = kSeparators[0];
     std::string line_;
     CsvFields fields_;
     bool whole_ = false;  // the line could be taken apart

@@ -1,8 +1,9 @@
 // Reads an account's holdings from the table that a broker's program or a spreadsheet writes.
 //
-// A comma-separated file in CP949 or UTF-8, gzipped or not. Its header is one of the first lines: it names
-// columns for the stock's code or name and for the quantity, and may name one for the average price, in the
-// words that Korean brokers use or in English. What stands above it, and other columns, are left alone.
+// A file in CP949 or UTF-8, gzipped or not, with commas, semicolons or tabs between its fields. Its header is
+// one of the first lines: it names columns for the stock's code or name and for the quantity, and may name
+// one for the average price, in the words that Korean brokers use or in English. What stands above it, and
+// other columns, are left alone.
 #pragma once
 
 #include <filesystem>

@@ -101,9 +101,10 @@ void HoldingsPage::Choose(const std::string& number) {
     if (place >= 0) accounts_->setCurrentIndex(place);
 }
 
+// A list that has the accounts as they are is left alone: the user may have it open.
 void HoldingsPage::ShowAccounts() {
-    const std::string chosen = Chosen();
-    {
+    if (!ListsAccounts()) {
+        const std::string chosen = Chosen();
         const QSignalBlocker quiet(accounts_);
         accounts_->clear();
         for (const service::HeldAccount& account : book_.Accounts())
@@ -112,6 +113,14 @@ void HoldingsPage::ShowAccounts() {
     }
     import_->setEnabled(book_.Loaded());
     ShowHoldings();
+}
+
+bool HoldingsPage::ListsAccounts() const {
+    std::vector<std::string> listed, known;
+    for (int i = 0; i < accounts_->count(); ++i)
+        listed.push_back(accounts_->itemData(i).toString().toStdString());
+    for (const service::HeldAccount& account : book_.Accounts()) known.push_back(account.number);
+    return listed == known;
 }
 
 void HoldingsPage::ShowHoldings() {

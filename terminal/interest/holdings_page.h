@@ -35,6 +35,7 @@ private:
     std::string Chosen() const;
     void Choose(const std::string& number);
     void ShowAccounts();
+    bool ListsAccounts() const;
     void ShowHoldings();
     void Import();
     std::optional<std::filesystem::path> AskFile();

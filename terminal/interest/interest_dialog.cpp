@@ -37,7 +37,7 @@ std::vector<std::string> Joined(std::vector<std::string> first, const std::vecto
 }
 
 InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::vector<std::string> codes,
-                               const std::string& last, QWidget* parent)
+                               const Choice& first, QWidget* parent)
     : QDialog(parent),
       groups_(std::move(groups)),
       codes_(std::move(codes)),
@@ -61,10 +61,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     for (const service::InterestGroup& group : groups_)
         list_->addItem(tr("%1 (%2종목)").arg(ToQString(group.name)).arg(group.stocks.size()),
                        QString::fromStdString(group.code));
-    list_->setCurrentIndex(std::max(0, list_->findData(QString::fromStdString(last))));
-    (groups_.empty() ? new_ : existing_)->setChecked(true);
     existing_->setEnabled(!groups_.empty());
-    adds_->setChecked(true);
 
     auto* layout = new QVBoxLayout(this);
     auto* head = new QLabel(tr("검색 결과 %1종목을 관심그룹에 저장합니다.").arg(codes_.size()));
@@ -74,6 +71,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     layout->addWidget(advice_);
     layout->addStretch(1);
     layout->addLayout(MakeButtons());
+    Preset(first);
     for (QRadioButton* radio : {existing_, new_, adds_, replaces_})
         connect(radio, &QRadioButton::toggled, this, &InterestDialog::Judge);
     connect(list_, &QComboBox::currentIndexChanged, this, &InterestDialog::Judge);
@@ -81,6 +79,16 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     connect(new_, &QRadioButton::clicked, name_, [this] { name_->setFocus(); });
     Judge();
     resize(std::max(kWidth, sizeHint().width()), sizeHint().height());
+}
+
+void InterestDialog::Preset(const Choice& first) {
+    list_->setCurrentIndex(std::max(0, list_->findData(QString::fromStdString(first.code))));
+    name_->setText(first.name);
+    const bool isNew = groups_.empty() || !first.name.isEmpty();
+    (isNew ? new_ : existing_)->setChecked(true);
+    (first.replaces ? replaces_ : adds_)->setChecked(true);
+    if (isNew) name_->setFocus();
+    name_->selectAll();
 }
 
 QLayout* InterestDialog::MakeChoices() {
@@ -116,7 +124,7 @@ QLayout* InterestDialog::MakeButtons() {
 
 InterestDialog::Choice InterestDialog::Chosen() const {
     if (const service::InterestGroup* group = Group()) return {group->code, {}, replaces_->isChecked()};
-    return {{}, Bytes(name_->text()), false};
+    return {{}, name_->text(), false};
 }
 
 const service::InterestGroup* InterestDialog::Group() const {

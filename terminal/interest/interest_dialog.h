@@ -24,17 +24,19 @@ public:
     // Where to, as the user has chosen.
     struct Choice {
         std::string code;  // of an existing group, empty for a new one
-        std::string name;  // of a new one, CP949
+        QString name;      // of a new one, as it is written
         bool replaces = false;
     };
 
-    // `codes` are to be saved; the dialog opens on the group `last`, if there is one with that code.
+    // `codes` are to be saved. The dialog opens with `first` chosen; on the first group where that is neither
+    // a group that there is nor a name.
     InterestDialog(std::vector<service::InterestGroup> groups, std::vector<std::string> codes,
-                   const std::string& last, QWidget* parent = nullptr);
+                   const Choice& first, QWidget* parent = nullptr);
 
     Choice Chosen() const;
 
 private:
+    void Preset(const Choice& first);
     QLayout* MakeChoices();
     QLayout* MakeButtons();
     const service::InterestGroup* Group() const;  // the chosen one that exists, or null

@@ -1,5 +1,6 @@
 #include "terminal/interest/interest_save.h"
 
+#include <QGuiApplication>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -39,16 +40,14 @@ private:
     std::array<std::byte, settings_block::kSize> block_{};
 };
 
-const InterestGroup* Find(const std::vector<InterestGroup>& groups, const std::string& code) {
-    const auto found = std::find_if(groups.begin(), groups.end(),
-                                    [&](const InterestGroup& group) { return group.code == code; });
-    return found == groups.end() ? nullptr : &*found;
-}
-
 }  // namespace
 
 InterestSave::InterestSave(const Workplace& workplace, Saved saved)
     : workplace_(workplace), saved_(std::move(saved)) {}
+
+InterestSave::~InterestSave() {
+    if (waits_) QGuiApplication::restoreOverrideCursor();
+}
 
 QString InterestSave::Caption() {
     return tr("관심저장");
@@ -56,41 +55,77 @@ QString InterestSave::Caption() {
 
 int InterestSave::SaveInterest(host::WindowHandle window, const std::vector<std::string>& codes,
                                host::WindowHandle, int) {
+    if (job_) return 0;
     const std::vector<std::string> stocks = Joined({}, codes);
     if (stocks.empty()) {
         Tell(workplace_.questions, tr("저장할 종목이 없습니다. 먼저 검색하십시오."), Caption());
         return 0;
     }
-    try {
-        return Save(stocks, window) ? 1 : 0;
-    } catch (const std::exception& error) {
-        Tell(workplace_.questions,
-             tr("관심그룹에 저장할 수 없습니다.\n%1").arg(QString::fromUtf8(error.what())), Caption(),
-             host::Icon::Warning);
-        return 0;
-    }
+    const ScreenAnswers settings(window);
+    job_ = Job{window, stocks, settings.ConfirmOverwrite(), settings.RegLink()};
+    AskGroups();
+    return 1;
 }
 
-bool InterestSave::Save(const std::vector<std::string>& codes, host::WindowHandle window) {
-    const std::vector<InterestGroup> groups = workplace_.service.GetPortfolios().Groups(workplace_.user);
-    const ScreenAnswers settings(window);
-    InterestDialog dialog(groups, codes, last_, host::FindWindow(window));
-    if (!workplace_.questions.Run("InterestDialog", static_cast<QDialog*>(&dialog))) return false;
-    const InterestDialog::Choice choice = dialog.Chosen();
-    if (choice.replaces && settings.ConfirmOverwrite() && !MayReplace(choice.code, groups)) return false;
-    const service::Addition saved = Carry(choice, codes);
-    if (saved.verdict != Verdict::Taken) {
-        Tell(workplace_.questions, WhyNot(saved.verdict), Caption(), host::Icon::Warning);
-        return false;
+// The pointer is that of work that hinders nobody.
+void InterestSave::AskService(Question question, void (InterestSave::*then)(const Answer&)) {
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    waits_ = true;
+    InBackground(
+        workplace_, *this,
+        [question = std::move(question), &portfolios = workplace_.service.GetPortfolios(),
+         user = workplace_.user] {
+            try {
+                return question(portfolios, user);
+            } catch (const std::exception& error) {
+                return Answer{{}, {}, error.what()};
+            }
+        },
+        [this, then](const Answer& answer) {
+            QGuiApplication::restoreOverrideCursor();
+            waits_ = false;
+            if (answer.failure.empty()) return (this->*then)(answer);
+            job_.reset();
+            Tell(workplace_.questions,
+                 tr("관심그룹에 저장할 수 없습니다.\n%1").arg(QString::fromStdString(answer.failure)),
+                 Caption(), host::Icon::Warning);
+        });
+}
+
+void InterestSave::AskGroups() {
+    AskService(
+        [](service::Portfolios& portfolios, const std::string& user) {
+            return Answer{portfolios.Groups(user), {}, {}};
+        },
+        &InterestSave::AskUser);
+}
+
+void InterestSave::AskUser(const Answer& answer) {
+    InterestDialog dialog(answer.groups, job_->codes, choice_, host::FindWindow(job_->window));
+    const bool agreed = workplace_.questions.Run("InterestDialog", static_cast<QDialog*>(&dialog));
+    if (agreed) choice_ = dialog.Chosen();
+    const bool asks = choice_.replaces && job_->asksBeforeReplacing;
+    if (!agreed || (asks && !MayReplace(choice_.code, answer.groups))) {
+        choice_ = {choice_.code, {}, false};
+        job_.reset();
+        return;
     }
-    last_ = saved.code;
-    if (saved_) saved_(saved.code, settings.RegLink());
-    return true;
+    AskService(
+        [choice = choice_, codes = job_->codes](service::Portfolios& portfolios,
+                                                const std::string& user) -> Answer {
+            if (choice.code.empty()) return {{}, portfolios.Add(user, Bytes(choice.name), codes), {}};
+            const auto edit = [&](std::vector<std::string>& stocks) {
+                stocks = choice.replaces ? codes : Joined(std::move(stocks), codes);
+            };
+            return {{}, {portfolios.EditStocks(user, choice.code, edit), choice.code}, {}};
+        },
+        &InterestSave::Finish);
 }
 
 bool InterestSave::MayReplace(const std::string& code, const std::vector<InterestGroup>& groups) const {
-    const InterestGroup* group = Find(groups, code);
-    if (!group || group->stocks.empty()) return true;
+    const auto group = std::find_if(groups.begin(), groups.end(),
+                                    [&](const InterestGroup& known) { return known.code == code; });
+    if (group == groups.end() || group->stocks.empty()) return true;
     return Agrees(workplace_.questions,
                   tr("관심그룹 '%1'에 있는 %2종목을 검색 결과로 바꾸시겠습니까?")
                       .arg(ToQString(group->name))
@@ -98,19 +133,16 @@ bool InterestSave::MayReplace(const std::string& code, const std::vector<Interes
                   Caption());
 }
 
-// Stocks join the group as it is now, not as it was when the dialog opened.
-service::Addition InterestSave::Carry(const InterestDialog::Choice& choice,
-                                      const std::vector<std::string>& codes) {
-    service::Portfolios& portfolios = workplace_.service.GetPortfolios();
-    if (choice.code.empty()) return portfolios.Add(workplace_.user, choice.name, codes);
-    std::vector<std::string> stocks = codes;
-    if (!choice.replaces) {
-        const std::vector<InterestGroup> now = portfolios.Groups(workplace_.user);
-        const InterestGroup* group = Find(now, choice.code);
-        if (!group) return {Verdict::NoSuchGroup, {}};
-        stocks = Joined(group->stocks, codes);
+// What wasn't taken is asked for again, as it was entered, over the groups that there are then.
+void InterestSave::Finish(const Answer& answer) {
+    if (answer.saved.verdict != Verdict::Taken) {
+        Tell(workplace_.questions, WhyNot(answer.saved.verdict), Caption(), host::Icon::Warning);
+        return AskGroups();
     }
-    return {portfolios.SetStocks(workplace_.user, choice.code, stocks), choice.code};
+    choice_ = {answer.saved.code, {}, false};
+    const bool shows = job_->shows;
+    job_.reset();
+    if (saved_) saved_(answer.saved.code, shows);
 }
 
 }  // namespace jogeon::terminal

@@ -29,6 +29,22 @@ std::vector<std::string> WithoutQuote(const std::vector<service::InterestGroup>&
 PortfolioBook::PortfolioBook(const Workplace& workplace, QObject* parent)
     : QObject(parent), workplace_(workplace) {}
 
+PortfolioBook::~PortfolioBook() {
+    std::vector<Command> commands;
+    for (Task& task : tasks_)
+        if (task.command) commands.push_back(std::move(task.command));
+    if (commands.empty()) return;
+    underWay_.then(&workplace_.workers, [commands = std::move(commands), user = workplace_.user,
+                                         &portfolios = workplace_.service.GetPortfolios()](const Answer&) {
+        for (const Command& command : commands) {
+            try {
+                command(portfolios, user);
+            } catch (const std::exception&) {  // the others may still be made
+            }
+        }
+    });
+}
+
 const service::InterestGroup* PortfolioBook::FindGroup(const std::string& code) const {
     const auto found = std::find_if(groups_.begin(), groups_.end(),
                                     [&](const service::InterestGroup& group) { return group.code == code; });
@@ -61,16 +77,11 @@ void PortfolioBook::Do(Command command, Done done) {
     Queue({std::move(command), std::move(done)});
 }
 
-void PortfolioBook::EditStocks(const std::string& group, StockEdit edit, Done done) {
+void PortfolioBook::EditStocks(const std::string& group, service::Portfolios::StockEdit edit, Done done) {
     Do(
         [group, edit = std::move(edit)](service::Portfolios& portfolios,
                                         const std::string& user) -> service::Addition {
-            for (service::InterestGroup& now : portfolios.Groups(user)) {
-                if (now.code != group) continue;
-                edit(now.stocks);
-                return {portfolios.SetStocks(user, group, now.stocks), {}};
-            }
-            return {Verdict::NoSuchGroup, {}};
+            return {portfolios.EditStocks(user, group, edit), {}};
         },
         std::move(done));
 }
@@ -85,7 +96,7 @@ void PortfolioBook::StartNext() {
     if (!working_) return;
     const Task task = std::move(tasks_.front());
     tasks_.pop_front();
-    InBackground(
+    underWay_ = InBackground(
         workplace_, *this,
         [&portfolios = workplace_.service.GetPortfolios(), user = workplace_.user, command = task.command,
          wantStocks = stocks_.All().empty(),

@@ -2,8 +2,10 @@
 //
 // The service is asked on the workplace's threads, one thing after the other in the order it was asked for;
 // answers come back on the window's thread. What the book shows is what the service had at the last answer.
+// Changes that wait when the book goes are still made, and nobody is told.
 #pragma once
 
+#include <QFuture>
 #include <QObject>
 #include <deque>
 #include <functional>
@@ -20,6 +22,7 @@ class PortfolioBook : public QObject {
 
 public:
     explicit PortfolioBook(const Workplace& workplace, QObject* parent = nullptr);
+    ~PortfolioBook() override;
 
     // Whether the service has answered at least once.
     bool Loaded() const { return loaded_; }
@@ -54,9 +57,8 @@ public:
     // that wasn't is told with Refused.
     void Do(Command command, Done done = {});
 
-    // Edits the stocks that the group has at that moment.
-    using StockEdit = std::function<void(std::vector<std::string>& stocks)>;
-    void EditStocks(const std::string& group, StockEdit edit, Done done = {});
+    // Edits the stocks that the group has at that moment, as service::Portfolios does.
+    void EditStocks(const std::string& group, service::Portfolios::StockEdit edit, Done done = {});
 
 signals:
     void Changed();
@@ -86,7 +88,8 @@ private:
     void Take(const Answer& answer, const Done& done);
 
     const Workplace workplace_;
-    std::deque<Task> tasks_;
+    std::deque<Task> tasks_;    // that wait
+    QFuture<Answer> underWay_;  // the task before them
     bool working_ = false;
     bool loaded_ = false;
     std::vector<service::InterestGroup> groups_;

@@ -29,6 +29,7 @@ QString WhyNot(service::Verdict verdict) {
         case Verdict::NoSuchGroup:
             return Words::tr("이 관심그룹은 다른 곳에서 이미 삭제되었습니다.");
         case Verdict::NotEveryGroup:
+        case Verdict::StocksChanged:
             return Words::tr("관심그룹이 다른 곳에서 바뀌었습니다. 다시 시도하십시오.");
         case Verdict::TooManyStocks:
             return Words::tr("한 곳에 500종목까지 담을 수 있습니다.");

@@ -70,6 +70,7 @@ StockTable::StockTable(std::vector<StockColumn> columns, QWidget* parent)
 }
 
 void StockTable::SetRows(std::vector<StockRow> rows) {
+    if (rows == model_->Rows()) return;
     const std::vector<std::string> selected = SelectedCodes();
     const int place = currentIndex().row();
     model_->SetRows(std::move(rows));

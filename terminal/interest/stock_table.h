@@ -16,6 +16,8 @@ struct StockRow {
     std::string code;
     QStringList cells;  // one for each column
     int trend = 0;      // 1 rise, -1 fall: the colour of the columns that have one
+
+    friend bool operator==(const StockRow&, const StockRow&) = default;
 };
 
 // 1 above 0, -1 below it, 0 for what isn't known.
@@ -56,7 +58,8 @@ class StockTable : public QTableView {
 public:
     explicit StockTable(std::vector<StockColumn> columns, QWidget* parent = nullptr);
 
-    // The row with the chosen stock stays chosen if it is still there, else the row in its place.
+    // The row with the chosen stock stays chosen if it is still there, else the row in its place. Rows as
+    // they are leave the table alone: a button of the mouse may be down on one.
     void SetRows(std::vector<StockRow> rows);
 
     // Codes of the selected rows, from top to bottom.

@@ -27,9 +27,10 @@ struct Workplace {
 
 // Runs `work` on a thread of the workplace and gives the result to `done` on the thread of `receiver`, where
 // this is called, if that lives by then. `work` must touch nothing of the screen; what it throws is lost, so
-// that it catches what it can meet.
+// that it catches what it can meet. Gives the work itself, for who has more to do behind it.
 template <typename Work, typename Done>
-void InBackground(const Workplace& workplace, QObject& receiver, Work work, Done done) {
+QFuture<std::invoke_result_t<Work>> InBackground(const Workplace& workplace, QObject& receiver, Work work,
+                                                 Done done) {
     using Result = std::invoke_result_t<Work>;
     auto* watcher = new QFutureWatcher<Result>(&receiver);
     QObject::connect(watcher, &QFutureWatcherBase::finished, &receiver,
@@ -42,6 +43,7 @@ void InBackground(const Workplace& workplace, QObject& receiver, Work work, Done
                              done(watcher->result());
                      });
     watcher->setFuture(QtConcurrent::run(&workplace.workers, std::move(work)));
+    return watcher->future();
 }
 
 }  // namespace jogeon::terminal

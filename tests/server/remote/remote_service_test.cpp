@@ -97,8 +97,9 @@ TEST_F(RemoteServiceTest, PortfoliosAreTheServicesOwnAndStocksAreAskedForOnce) {
     EXPECT_EQ(added.code, "504");
     EXPECT_EQ(there.Add("kim01", "내 종목"_cp949, {}).verdict, Verdict::NameInUse);
     EXPECT_EQ(there.Rename("kim01", "504", "새 이름"_cp949), Verdict::Taken);
-    EXPECT_EQ(there.SetStocks("kim01", "504", {"000020", "000010"}), Verdict::Taken);
-    EXPECT_EQ(there.SetStocks("kim01", "599", {}), Verdict::NoSuchGroup);
+    EXPECT_EQ(there.SetStocks("kim01", "504", {"100020", "000010"}, {"000020", "000010"}), Verdict::Taken);
+    EXPECT_EQ(there.SetStocks("kim01", "504", {"100020", "000010"}, {}), Verdict::StocksChanged);
+    EXPECT_EQ(there.SetStocks("kim01", "599", {}, {}), Verdict::NoSuchGroup);
     EXPECT_EQ(there.Delete("kim01", "501"), Verdict::Taken);
     EXPECT_EQ(there.Reorder("kim01", {"504", "503", "502"}), Verdict::Taken);
     EXPECT_EQ(here.Groups("kim01").at(0),
@@ -120,7 +121,7 @@ TEST_F(RemoteServiceTest, PortfoliosAreTheServicesOwnAndStocksAreAskedForOnce) {
     EXPECT_EQ(stocks, here.Stocks());
     server.reset();
     EXPECT_EQ(there.Stocks(), stocks) << "without a call";
-    EXPECT_THROW(there.SetStocks("kim01", "504", {}), RemoteError);
+    EXPECT_THROW(there.SetStocks("kim01", "504", {}, {}), RemoteError);
 }
 
 TEST_F(RemoteServiceTest, ChartsAreThoseOfTheServiceAndAFaultReachesTheAskerAsItsLine) {
@@ -197,7 +198,7 @@ TEST_F(RemoteServiceTest, OtherProtocolsAndPortsThatAreTakenAreToldInOneLine) {
     EXPECT_EQ(Connect(next)->Handle(Search()), "");
     EXPECT_THAT(kinds, ElementsAre(Trouble::Kind::OtherProtocol));
     EXPECT_EQ(lines.back(),
-              "the server at " + address + " is of another version: it speaks protocol 2, the asker 3");
+              "the server at " + address + " is of another version: it speaks protocol 3, the asker 4");
     try {
         ServiceServer(local, server->Port());
         ADD_FAILURE() << "two servers on one port";

@@ -49,7 +49,7 @@ TEST_F(PortfoliosTest, ASearchOfAnyTerminalFollowsEachChange) {
     EXPECT_EQ(Names(), "501 대형주, 502 거래대금 상위, 503 저가주, 504 내 종목");
     EXPECT_EQ(FindGroup("504"), "K000040 Q100020");
     EXPECT_EQ(Find(service, "01", "504", "lee02"), "T0") << "another user has no such group";
-    EXPECT_EQ(portfolios.SetStocks("kim01", "504", {"000010"}), Verdict::Taken);
+    EXPECT_EQ(portfolios.SetStocks("kim01", "504", {"100020", "000040"}, {"000010"}), Verdict::Taken);
     EXPECT_EQ(FindGroup("504"), "K000010");
     EXPECT_EQ(portfolios.Rename("kim01", "504", "바뀐 이름"_cp949), Verdict::Taken);
     std::map<std::string, Codes> lists = {{"0502", {}}};
@@ -119,14 +119,16 @@ TEST_F(PortfoliosTest, CodesOfDeletedGroupsComeBackOnlyWhenAllOthersWereUsed) {
 }
 
 TEST_F(PortfoliosTest, StocksAreOfTheMarketAndStandOnce) {
-    const auto set = [&](const Codes& stocks) { return portfolios.SetStocks("kim01", "501", stocks); };
     const InterestGroup before = portfolios.Groups("kim01").at(0);
+    const auto set = [&](const Codes& stocks) {
+        return portfolios.SetStocks("kim01", "501", before.stocks, stocks);
+    };
     EXPECT_EQ(set({"000010", "999999"}), Verdict::BadStocks);
     EXPECT_EQ(set({"000010", "000010"}), Verdict::BadStocks);
     EXPECT_EQ(set({"10"}), Verdict::BadStocks);
     EXPECT_EQ(set(Codes(501, "000010")), Verdict::TooManyStocks);
     EXPECT_EQ(portfolios.Groups("kim01").at(0), before);
-    EXPECT_EQ(portfolios.SetStocks("kim01", "500", {}), Verdict::NoSuchGroup);
+    EXPECT_EQ(portfolios.SetStocks("kim01", "500", {}, {}), Verdict::NoSuchGroup);
     EXPECT_EQ(portfolios.Reorder("kim01", {"503", "501"}), Verdict::NotEveryGroup);
     EXPECT_EQ(portfolios.Reorder("kim01", {"503", "501", "501"}), Verdict::NotEveryGroup);
     EXPECT_EQ(portfolios.Reorder("kim01", {"503", "501", "502"}), Verdict::Taken);
@@ -138,10 +140,28 @@ TEST_F(PortfoliosTest, AStockThatHasLeftTheMarketStaysWhereItIs) {
     portfolio.groups = {{"501", "옛날", {"000010", "777777"}}};
     const auto market = test::TestMarket();
     const PortfolioRules rules(*market);
-    EXPECT_EQ(rules.SetStocks(portfolio, "501", {"777777", "000020", "000010"}), Verdict::Taken);
-    EXPECT_EQ(rules.SetStocks(portfolio, "501", {"000020"}), Verdict::Taken);
-    EXPECT_EQ(rules.SetStocks(portfolio, "501", {"000020", "777777"}), Verdict::BadStocks)
+    const Codes first = {"000010", "777777"}, second = {"777777", "000020", "000010"}, third = {"000020"};
+    EXPECT_EQ(rules.SetStocks(portfolio, "501", first, second), Verdict::Taken);
+    EXPECT_EQ(rules.SetStocks(portfolio, "501", second, third), Verdict::Taken);
+    EXPECT_EQ(rules.SetStocks(portfolio, "501", third, {"000020", "777777"}), Verdict::BadStocks)
         << "not added anew";
+}
+
+TEST_F(PortfoliosTest, AnEditLosesNothingThatAnotherTerminalAddsMeanwhile) {
+    const std::string group = portfolios.Add("kim01", "a", {"000010"}).code;
+    int calls = 0;
+    const auto other = [](Codes& stocks) { stocks.push_back("000020"); };
+    const auto edit = [&](Codes& stocks) {
+        if (calls++ == 0) {
+            EXPECT_EQ(portfolios.EditStocks("kim01", group, other), Verdict::Taken);
+        }
+        stocks.push_back("000030");
+    };
+    EXPECT_EQ(portfolios.EditStocks("kim01", group, edit), Verdict::Taken);
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(portfolios.Groups("kim01").back().stocks, (Codes{"000010", "000020", "000030"}));
+    EXPECT_EQ(portfolios.SetStocks("kim01", group, {"000010"}, {}), Verdict::StocksChanged);
+    EXPECT_EQ(portfolios.EditStocks("kim01", "599", other), Verdict::NoSuchGroup);
 }
 
 TEST_F(PortfoliosTest, HoldingsAreChecked) {

@@ -59,6 +59,11 @@ TEST(HoldingsCsvTest, FormsOfBrokersAndSpreadsheets) {
          "100020 7 0 / 0001A0 8 0"},
         {"one stock for cash and on credit", "코드,수량,매입가\n005930,1,100\n005930,3,200\n",
          "005930 4 175"},
+        {"semicolons", "종목코드;수량;매입단가\n005930;\"1;0\";2\n=\"100020\";1,234;800.5\n",
+         "100020 1234 800.5 / 2:quantity \"1;0\""},
+        {"tabs, with an empty field before a quoted one",
+         "코드\t종목명\t수량\t매입가\n\t\"바반도체\"\t \"5\" \t800\n\t삼전자\t6\t\n\t\t\t\n",
+         "100020 5 800 / 005930 6 0"},
         {"empty lines and fields at the end", "코드,수량,\n\n005930,1,,,\n,,\n", "005930 1 0"},
     };
     for (const auto& c : cases) EXPECT_EQ(Read(c.bytes), c.read) << c.what;

@@ -36,7 +36,7 @@ protected:
 class InterestSaveTest : public testing::Test {
 protected:
     InterestSaveTest() {
-        place_.Portfolios().SetStocks(InterestPlace::kUser, "501", {"000010", "000020"});
+        place_.SetStocks("501", {"000010", "000020"});
         place_.questions.onRun = [this](const std::string& name, void* object) {
             EXPECT_EQ(name, "InterestDialog");
             auto* dialog = static_cast<QDialog*>(object);
@@ -46,7 +46,15 @@ protected:
         };
     }
 
-    int Save(const Codes& codes) { return save_.SaveInterest(window_.handle, codes, 0, 1); }
+    int Press(const Codes& codes) { return save_.SaveInterest(window_.handle, codes, 0, 1); }
+
+    // Whether the codes were saved in the end.
+    bool Save(const Codes& codes) {
+        const std::size_t before = told_.size();
+        Press(codes);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return save_.Idle(); }, InterestPlace::kPatience));
+        return told_.size() > before;
+    }
 
     static void Click(QDialog& dialog, const char* name) {
         QTest::mouseClick(dialog.findChild<QAbstractButton*>(name), Qt::LeftButton);
@@ -70,7 +78,7 @@ TEST_F(InterestSaveTest, StocksJoinAGroupOrReplaceIt) {
         EXPECT_EQ(TextOf(dialog, "advice"), "그룹에 없는 2종목이 추가되어 4종목이 됩니다.");
         Click(dialog, "save");
     };
-    EXPECT_EQ(Save({"000020", "000030", "100010", "000030"}), 1);
+    EXPECT_TRUE(Save({"000020", "000030", "100010", "000030"}));
     EXPECT_EQ(place_.StocksOf("501"), (Codes{"000010", "000020", "000030", "100010"}));
     EXPECT_EQ(told_, Codes{"501"}) << "not shown without the setting";
 
@@ -80,7 +88,7 @@ TEST_F(InterestSaveTest, StocksJoinAGroupOrReplaceIt) {
         EXPECT_EQ(TextOf(dialog, "advice"), "그룹에 있던 4종목이 검색 결과 1종목으로 바뀝니다.");
         Click(dialog, "save");
     };
-    EXPECT_EQ(Save({"000040"}), 1);
+    EXPECT_TRUE(Save({"000040"}));
     EXPECT_EQ(place_.StocksOf("501"), Codes{"000040"});
     EXPECT_TRUE(place_.questions.boxes.empty()) << "nobody wanted to be asked";
     EXPECT_EQ(told_.back(), "501 shown");
@@ -93,46 +101,90 @@ TEST_F(InterestSaveTest, TheSettingAsksBeforeStocksAreReplaced) {
         Click(dialog, "save");
     };
     place_.questions.answers = {host::Answer::No, host::Answer::Yes};
-    EXPECT_EQ(Save({"000040"}), 0);
+    EXPECT_FALSE(Save({"000040"}));
     EXPECT_EQ(place_.StocksOf("501"), (Codes{"000010", "000020"}));
     EXPECT_TRUE(told_.empty());
-    EXPECT_EQ(Save({"000040"}), 1);
+    EXPECT_TRUE(Save({"000040"}));
     EXPECT_EQ(place_.StocksOf("501"), Codes{"000040"});
-    place_.Portfolios().SetStocks(InterestPlace::kUser, "501", {});
-    EXPECT_EQ(Save({"000040"}), 1);
+    place_.SetStocks("501", {});
+    EXPECT_TRUE(Save({"000040"}));
     EXPECT_EQ(place_.questions.boxes.size(), 2u) << "an empty group has nothing to lose";
 }
 
 TEST_F(InterestSaveTest, ANewGroupTakesTheStocksAndABadNameIsSaid) {
-    QString name = "대형주";
+    QStringList names = {"대형주", "😀", "검색 결과"};
+    QStringList found;
     answer_ = [&](QDialog& dialog) {
-        Click(dialog, "new");
-        EXPECT_FALSE(dialog.findChild<QPushButton*>("save")->isEnabled()) << "no name yet";
-        Type(*dialog.findChild<QLineEdit*>("name"), name);
+        auto& name = *dialog.findChild<QLineEdit*>("name");
+        if (found.isEmpty()) {
+            Click(dialog, "new");
+            EXPECT_FALSE(dialog.findChild<QPushButton*>("save")->isEnabled()) << "no name yet";
+        }
+        EXPECT_EQ(dialog.focusWidget(), &name);
+        found += name.text();
+        name.selectAll();
+        Type(name, names.takeFirst());
         Click(dialog, "save");
     };
-    EXPECT_EQ(Save({"000040", "000010"}), 0);
-    ASSERT_EQ(place_.questions.boxes.size(), 1u);
+    EXPECT_TRUE(Save({"000040", "000010"}));
+    EXPECT_EQ(found, (QStringList{"", "대형주", "😀"})) << "nobody writes a name twice";
+    ASSERT_EQ(place_.questions.boxes.size(), 2u);
     EXPECT_EQ(ToQString(place_.questions.boxes[0].text), WhyNot(service::Verdict::NameInUse));
-    name = "검색 결과";
-    EXPECT_EQ(Save({"000040", "000010"}), 1);
+    EXPECT_EQ(ToQString(place_.questions.boxes[1].text), WhyNot(service::Verdict::BadName));
     EXPECT_EQ(place_.NameOf("504"), "검색 결과");
     EXPECT_EQ(place_.StocksOf("504"), (Codes{"000040", "000010"}));
 }
 
 TEST_F(InterestSaveTest, NothingToSaveACancelAndAGroupThatIsGone) {
     answer_ = [](QDialog& dialog) { dialog.reject(); };
-    EXPECT_EQ(Save({}), 0);
+    EXPECT_FALSE(Save({}));
     EXPECT_TRUE(place_.questions.dialogs.empty());
     EXPECT_EQ(place_.questions.boxes.size(), 1u);
-    EXPECT_EQ(Save({"000040"}), 0);
+    EXPECT_FALSE(Save({"000040"}));
     EXPECT_EQ(place_.questions.boxes.size(), 1u) << "silently";
     answer_ = [this](QDialog& dialog) {
-        place_.Portfolios().Delete(InterestPlace::kUser, "501");
+        if (place_.Portfolios().Delete(InterestPlace::kUser, "501") == service::Verdict::Taken)
+            Click(dialog, "save");
+        else
+            dialog.reject();
+    };
+    EXPECT_FALSE(Save({"000040"}));
+    EXPECT_EQ(place_.questions.dialogs.size(), 3u) << "another group may be chosen";
+    EXPECT_EQ(ToQString(place_.questions.boxes.back().text), WhyNot(service::Verdict::NoSuchGroup));
+}
+
+TEST_F(InterestSaveTest, TheUserWaitsForNoServiceAndSavesOnceAtATime) {
+    answer_ = [](QDialog& dialog) { dialog.reject(); };
+    std::unique_lock hold(place_.service.gate);
+    EXPECT_EQ(Press({"000040"}), 1);
+    EXPECT_EQ(Press({"000040"}), 0);
+    EXPECT_TRUE(QGuiApplication::overrideCursor());
+    EXPECT_TRUE(place_.questions.dialogs.empty());
+    hold.unlock();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return save_.Idle(); }, InterestPlace::kPatience));
+    EXPECT_EQ(place_.questions.dialogs.size(), 1u);
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
+
+    answer_ = [this](QDialog& dialog) {
+        place_.service.fails = true;
         Click(dialog, "save");
     };
-    EXPECT_EQ(Save({"000040"}), 0);
-    EXPECT_EQ(ToQString(place_.questions.boxes.back().text), WhyNot(service::Verdict::NoSuchGroup));
+    EXPECT_FALSE(Save({"000040"}));
+    ASSERT_EQ(place_.questions.boxes.size(), 1u);
+    EXPECT_NE(ToUtf8(place_.questions.boxes[0].text).find("can't be reached"), std::string::npos);
+}
+
+TEST_F(InterestSaveTest, NobodyIsAskedWhenTheSaveIsGone) {
+    std::unique_lock hold(place_.service.gate);
+    {
+        InterestSave gone(place_.workplace, {});
+        EXPECT_EQ(gone.SaveInterest(window_.handle, {"000040"}, 0, 1), 1);
+    }
+    hold.unlock();
+    place_.workers.waitForDone();
+    QApplication::processEvents();
+    EXPECT_TRUE(place_.questions.dialogs.empty());
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
 }
 
 TEST_F(InterestSaveTest, MoreThanAGroupHoldsCantBeChosen) {
@@ -144,7 +196,7 @@ TEST_F(InterestSaveTest, MoreThanAGroupHoldsCantBeChosen) {
                   "저장하면 503종목이 됩니다. 한 그룹에는 500종목까지 담을 수 있습니다.");
         dialog.reject();
     };
-    EXPECT_EQ(Save(many), 0);
+    EXPECT_FALSE(Save(many));
 }
 
 }  // namespace

@@ -5,12 +5,15 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCompleter>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QMimeData>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include "terminal/interest/group_tree.h"
 #include "terminal/interest/holdings_dialog.h"
 #include "terminal/interest/portfolio_texts.h"
 #include "tests/terminal/support/interest_place.h"
@@ -25,7 +28,7 @@ constexpr char kSearched[] = "501";  // the group that the tests work on: the la
 class InterestScreenTest : public testing::Test {
 protected:
     InterestScreenTest() {
-        place_.Portfolios().SetStocks(InterestPlace::kUser, kSearched, {"000010", "000020", "100010"});
+        place_.SetStocks(kSearched, {"000010", "000020", "100010"});
         screen_.resize(700, 420);
         screen_.show();
         screen_.OnOpened(false);
@@ -182,8 +185,93 @@ TEST_F(InterestScreenTest, AClickSharesTheStockAndADoubleClickOpensTheChart) {
     EXPECT_EQ(Tag("J_ECODE"), "000010");
 }
 
+// The focus that comes in has everything read anew, while the button is down.
+TEST_F(InterestScreenTest, TheFirstClickAndTheFirstDoubleClickIntoTheWindowAreNotLost) {
+    QWidget window;
+    QLineEdit elsewhere(&window);
+    screen_.setParent(&window);
+    screen_.move(0, elsewhere.sizeHint().height());
+    window.resize(700, 460);
+    window.show();
+    screen_.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    Settle();
+    QStringList asked;
+    QObject::connect(&screen_, &OwnScreen::ScreenAsked, &screen_,
+                     [&](const QString& number, bool) { asked += number; });
+    StockTable& table = Get<StockTable>("stocks");
+    for (const int row : {1, 2}) {
+        elsewhere.setFocus();
+        QTest::mousePress(table.viewport(), Qt::LeftButton, {}, At(table, row));
+        EXPECT_FALSE(screen_.Idle());
+        Settle();
+        QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, At(table, row));
+        EXPECT_EQ(Tag("JCODE"), Stocks()[static_cast<std::size_t>(row)]);
+    }
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, At(table, 2));
+    EXPECT_EQ(asked, QStringList{"0615"});
+    screen_.setParent(nullptr);
+}
+
+// Where no platform drags, the list is handed the drop itself.
+struct Dropping : GroupTree {
+    using GroupTree::dropEvent;
+};
+
+TEST_F(InterestScreenTest, ADraggedGroupGoesWhereItIsDropped) {
+    const auto drop = [this](int group, QPoint at) {
+        ClickGroup(group);
+        const QMimeData data;
+        QDropEvent event(at, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        (Get<GroupTree>("groups").*&Dropping::dropEvent)(&event);
+        EXPECT_NE(event.dropAction(), Qt::MoveAction) << "the view would take the row out";
+        Settle();
+    };
+    const auto rect = [this](int row) { return Groups().visualItemRect(Groups().topLevelItem(row)); };
+    drop(0, rect(2).center() - QPoint(0, 5));
+    EXPECT_EQ(GroupNames(), (QStringList{"거래대금 상위", "대형주", "저가주"}));
+    drop(2, rect(0).topLeft() + QPoint(5, 1));
+    EXPECT_EQ(GroupNames(), (QStringList{"저가주", "거래대금 상위", "대형주"}));
+    drop(0, {5, Groups().viewport()->height() - 1});
+    EXPECT_EQ(GroupNames(), (QStringList{"거래대금 상위", "대형주", "저가주"}));
+    EXPECT_EQ(Groups().currentItem()->text(0), "저가주");
+    EXPECT_EQ(place_.Portfolios().Groups(InterestPlace::kUser).back().code, "503");
+}
+
+TEST_F(InterestScreenTest, WhatAServiceThatFailsDidntTakeIsNotShownAndNotLost) {
+    auto& trouble = Get<QLabel>("trouble");
+    auto& input = Get<StockInput>("stockInput");
+    ClickGroup(0);
+    place_.service.fails = true;
+    QTest::keyClick(&Groups(), Qt::Key_F2);
+    WriteName("새 이름");
+    EXPECT_EQ(GroupNames().value(0), "대형주");
+    EXPECT_TRUE(trouble.text().contains("the server can't be reached"));
+    EXPECT_TRUE(place_.questions.boxes.empty()) << "no box on every activation";
+    Type(input, "000030");
+    QTest::keyClick(&input, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(input.text(), "000030");
+    place_.service.fails = false;
+    QTest::keyClick(&input, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(input.text(), "");
+    EXPECT_TRUE(trouble.isHidden());
+
+    std::unique_lock hold(place_.service.gate);
+    Type(input, "000040");
+    QTest::keyClick(&input, Qt::Key_Return);
+    QApplication::processEvents();
+    Type(input, "다제");
+    hold.unlock();
+    Settle();
+    EXPECT_EQ(input.text(), "다제") << "he is writing the next one";
+    EXPECT_EQ(Stocks(), (Codes{"000010", "000020", "100010", "000030", "000040"}));
+}
+
 TEST_F(InterestScreenTest, AChangeElsewhereIsSeenWhenTheWindowIsShownAndNotLostByOnesOwn) {
-    place_.Portfolios().SetStocks(InterestPlace::kUser, kSearched, {"000040"});
+    place_.SetStocks(kSearched, {"000040"});
     auto& input = Get<StockInput>("stockInput");
     Type(input, "000030");
     QTest::keyClick(&input, Qt::Key_Return);
@@ -279,33 +367,6 @@ TEST_F(HoldingsImportTest, WhatIsNoTableOfHoldingsIsToldInABox) {
     Import("날짜,종가\n20260302,1000\n");
     ASSERT_EQ(place_.questions.boxes.size(), 1u);
     EXPECT_EQ(ToUtf8(place_.questions.boxes[0].caption), "CSV 가져오기");
-}
-
-// A service that can't be asked.
-class SilentService : public service::LocalService {
-public:
-    SilentService() : LocalService(test::TestMarket(), nullptr) {}
-    service::Portfolios& GetPortfolios() override { return silent_; }
-
-private:
-    struct Silent : service::LocalPortfolios {
-        Silent() : LocalPortfolios(test::TestMarket(), store::PortfolioStore::kInMemory) {}
-        std::vector<service::InterestGroup> Groups(const std::string&) override {
-            throw std::runtime_error("the server can't be reached");
-        }
-    } silent_;
-};
-
-TEST(InterestScreenTroubleTest, AServiceThatFailsIsToldInTheWindow) {
-    SilentService service;
-    Links links(InterestPlace::kUser, HomeFolder{}, {});
-    test::ScriptedQuestions questions;
-    QThreadPool workers;
-    InterestScreen screen({InterestPlace::kUser, service, links, questions, workers});
-    screen.OnOpened(false);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen.Idle(); }, InterestPlace::kPatience));
-    EXPECT_TRUE(screen.findChild<QLabel*>("trouble")->text().contains("the server can't be reached"));
-    EXPECT_TRUE(questions.boxes.empty()) << "no box on every activation";
 }
 
 }  // namespace
