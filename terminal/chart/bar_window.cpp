@@ -56,6 +56,11 @@ void BarWindow::ToNewest() {
     Clamp();
 }
 
+void BarWindow::ShowLast(int bar) {
+    first_ = bar + 1 - Visible();
+    Clamp();
+}
+
 // No narrower than what shows all bars.
 void BarWindow::Clamp() {
     const double least = std::min(kWidthOfFew, width_ / (bars_ + kRoom));

@@ -43,6 +43,7 @@ public:
 
     void ToOldest();
     void ToNewest();
+    void ShowLast(int bar);  // as the last in view
 
 private:
     double Visible() const { return width_ / barWidth_; }

@@ -1,17 +1,17 @@
 // Screen 0615: the chart of one stock, which follows the stock that other screens choose.
 //
-// Bars and marks are asked for apart from the user interface; an answer that comes after the trader has gone
-// on to another stock is let go.
+// Relies on the shared tags for that stock and on the published result for its steps and marks, and hears of
+// changes to both.
 #pragma once
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "terminal/chart/chart_bar.h"
+#include "terminal/chart/chart_data.h"
 #include "terminal/chart/chart_view.h"
+#include "terminal/chart/published_result.h"
 #include "terminal/screens/own_screen.h"
-#include "terminal/screens/workplace.h"
 #include "terminal/stocks/stock_index.h"
 
 namespace jogeon::terminal {
@@ -35,48 +35,34 @@ public:
     const chart::ChartView& View() const { return *view_; }
 
     // Whether no answer is awaited that would change what is shown.
-    bool Settled() const { return !loading_ && !marking_; }
-
-protected:
-    void enterEvent(QEnterEvent* event) override;
+    bool Settled() const { return !data_.BarsAwaited() && !data_.DaysAwaited(); }
 
 private:
-    // What the service says of a stock; without bars and with a fault when it can't tell.
-    struct Loaded {
-        std::optional<service::StockBars> stock;
-        bool failed = false;
-    };
+    void SetUp();
+    void Wire();
 
     void FollowLink();
-    void Step(int by);
-    void Announce();
-    void Choose(const chart::Choice& choice);
     void ShowStock(const std::string& code);
-    void Load();
-    void OnLoaded(const Loaded& loaded);
-    void AskStocks();
+    void Step(int by);
+    void TakeResult();
+    void ShowPlace();
     void AskMarks();
-    void PlaceMarks();
-    void RefreshSteps();
-    std::string TagOf(const char* mainKey, const char* tag) const;
-    std::vector<std::string> Listed() const;
+    void Choose(const chart::Choice& choice);
 
-    const Workplace workplace_;
+    void OnBars(const std::optional<service::StockBars>& stock);
+    void OnBarsFailed();
+    void Name(const QString& name);
+    void PlaceMarks();
+
+    Links& links_;
+    chart::ChartData data_;
     chart::ChartBar* const bar_;
     chart::ChartView* const view_;
+    StockIndex stocks_;  // that the trader can name
+    chart::PublishedResult result_;
     chart::Choice choice_;
-
     std::string code_;
-    QString name_;
-    bool named_ = false;  // the stocks have been asked for
-    StockIndex stocks_;   // that the trader can name
-    std::optional<std::vector<int>> trueDays_;
-
-    // Answers to older questions are let go.
-    int loads_ = 0;
-    int asks_ = 0;
-    bool loading_ = false;
-    bool marking_ = false;
+    QString name_;  // empty until it is known
 };
 
 }  // namespace jogeon::terminal

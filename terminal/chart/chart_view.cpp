@@ -1,9 +1,7 @@
 #include "terminal/chart/chart_view.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QEvent>
 #include <QPainter>
-#include <QWheelEvent>
 #include <cmath>
 #include <utility>
 
@@ -15,12 +13,6 @@
 namespace jogeon::terminal::chart {
 namespace {
 
-constexpr double kWheelZoom = 1.15;  // of one notch
-constexpr double kWheelNotch = 120;
-constexpr double kKeyZoom = 1.25;
-constexpr double kKeyPan = 3;        // bars
-constexpr double kPagePan = 0.9;     // of the width
-constexpr double kDragZoom = 0.008;  // of a pixel; e to the power of it
 constexpr int kDatePadding = 6;
 
 }  // namespace
@@ -32,11 +24,19 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent) {
 }
 
 void ChartView::Show(Content content) {
+    lastDay_ = content.code == content_.code ? LastDay() : 0;
     content_ = std::move(content);
     marks_ = {};
     message_.clear();
     window_.SetBars(static_cast<int>(content_.bars.size()));
+    if (lastDay_) window_.ShowLast(LastUpTo(content_.bars, content_.timeframe, lastDay_));
     Arrange();
+}
+
+// Of what is in view, or was where the trader moved last; 0 where that is the newest bar, which then stays.
+int ChartView::LastDay() const {
+    if (lastDay_ || window_.EndVisible() == window_.Bars()) return lastDay_;
+    return content_.At(window_.EndVisible() - 1).date;
 }
 
 void ChartView::SetStudy(Study study) {
@@ -105,12 +105,22 @@ void ChartView::PaintLayer() {
 
 void ChartView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (!HasBars()) {
-        painter.fillRect(rect(), ToQColor(Color::ChartBack));
-        painter.setPen(ToQColor(Color::ChartText));
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, message_);
-        return;
-    }
+    if (HasBars())
+        PaintChart(painter);
+    else
+        PaintMessage(painter);
+    if (!hasFocus()) return;
+    painter.setPen(ToQColor(Color::Accent));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void ChartView::PaintMessage(QPainter& painter) const {
+    painter.fillRect(rect(), ToQColor(Color::ChartBack));
+    painter.setPen(ToQColor(Color::ChartText));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, message_);
+}
+
+void ChartView::PaintChart(QPainter& painter) {
     const double ratio = devicePixelRatioF();
     if (layer_.isNull() || layerRatio_ != ratio) PaintLayer();
     // Pixel for pixel: a painter that scales would pick each of them anew.
@@ -130,94 +140,6 @@ void ChartView::resizeEvent(QResizeEvent*) {
 void ChartView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) Arrange();
     QWidget::changeEvent(event);
-}
-
-// A wheel zooms around the pointer; a wheel to the side moves.
-void ChartView::wheelEvent(QWheelEvent* event) {
-    if (!HasBars()) return event->ignore();
-    const QPoint angle = event->angleDelta();
-    if (angle.y() != 0)
-        window_.ZoomAt(event->position().x(), std::pow(kWheelZoom, angle.y() / kWheelNotch));
-    else
-        window_.PanBars(angle.x() / kWheelNotch * kKeyPan);
-    Moved();
-    event->accept();
-}
-
-void ChartView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !HasBars()) return;
-    const QPoint at = event->position().toPoint();
-    drag_ = panes_.dates.contains(at) ? Drag::Zoom : Drag::Pan;
-    dragFrom_ = at.x();
-    RefreshCursor(at);
-}
-
-void ChartView::mouseMoveEvent(QMouseEvent* event) {
-    if (!HasBars()) return;
-    const QPoint at = event->position().toPoint();
-    const int moved = at.x() - std::exchange(dragFrom_, at.x());
-    if (drag_ == Drag::Pan) window_.Pan(moved);
-    if (drag_ == Drag::Zoom) window_.ZoomAtEnd(std::exp(kDragZoom * moved));
-    if (drag_ != Drag::None) Moved();
-    pointer_ = at;
-    if (at.x() >= panes_.Right() || at.y() < panes_.price.top()) pointer_.reset();
-    RefreshCursor(at);
-    update();
-}
-
-void ChartView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    drag_ = Drag::None;
-    RefreshCursor(event->position().toPoint());
-}
-
-void ChartView::RefreshCursor(QPoint at) {
-    if (drag_ == Drag::Pan) return setCursor(Qt::ClosedHandCursor);
-    if (drag_ == Drag::Zoom || panes_.dates.contains(at)) return setCursor(Qt::SizeHorCursor);
-    setCursor(pointer_ ? Qt::CrossCursor : Qt::ArrowCursor);
-}
-
-void ChartView::leaveEvent(QEvent*) {
-    pointer_.reset();
-    update();
-}
-
-void ChartView::keyPressEvent(QKeyEvent* event) {
-    if (!HasBars() || !MoveByKey(event->key())) return QWidget::keyPressEvent(event);
-    Moved();
-}
-
-// False for a key that means nothing here.
-bool ChartView::MoveByKey(int key) {
-    switch (key) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            window_.ZoomAtEnd(kKeyZoom);
-            return true;
-        case Qt::Key_Minus:
-            window_.ZoomAtEnd(1 / kKeyZoom);
-            return true;
-        case Qt::Key_Left:
-            window_.PanBars(kKeyPan);
-            return true;
-        case Qt::Key_Right:
-            window_.PanBars(-kKeyPan);
-            return true;
-        case Qt::Key_PageUp:
-            window_.PanPages(kPagePan);
-            return true;
-        case Qt::Key_PageDown:
-            window_.PanPages(-kPagePan);
-            return true;
-        case Qt::Key_Home:
-            window_.ToOldest();
-            return true;
-        case Qt::Key_End:
-            window_.ToNewest();
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace jogeon::terminal::chart

@@ -19,7 +19,8 @@ class ChartView : public QWidget {
 public:
     explicit ChartView(QWidget* parent = nullptr);
 
-    // Shows the stock from its newest bar on, without marks.
+    // Shows the stock without marks: its newest bars, or, of the stock that is shown already, those up to the
+    // day that was the last in view.
     void Show(Content content);
 
     // The same bars with other lines; what is in view stays.
@@ -58,15 +59,20 @@ private:
 
     bool HasBars() const { return !content_.bars.empty(); }
     void Arrange();
+    int LastDay() const;
+    void MovedByTrader();
     void Moved();  // another part of the bars is in view
     void RefreshCursor(QPoint at);
     void PaintLayer();
+    void PaintChart(QPainter& painter);
+    void PaintMessage(QPainter& painter) const;
     bool MoveByKey(int key);
 
     Content content_;
     Marks marks_;
     QString message_;
     BarWindow window_;
+    int lastDay_ = 0;  // where the trader was before other timeframes; 0 once he has moved on
     Panes panes_;
     Legend legend_;
 

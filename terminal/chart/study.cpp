@@ -86,4 +86,12 @@ std::vector<int> BarsHolding(const Bars& bars, market::Timeframe timeframe, cons
     return holding;
 }
 
+int LastUpTo(const Bars& bars, market::Timeframe timeframe, int date) {
+    const int period = market::PeriodOf(timeframe, date);
+    const auto end = std::partition_point(bars.begin(), bars.end(), [&](const service::ChartBar& bar) {
+        return market::PeriodOf(timeframe, bar.date) <= period;
+    });
+    return static_cast<int>(end - bars.begin()) - 1;
+}
+
 }  // namespace jogeon::terminal::chart

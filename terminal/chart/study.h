@@ -50,4 +50,7 @@ Study StudyOf(const Bars& bars, const Choice& choice);
 // The bars that hold these dates (ascending, yyyymmdd), each once; dates without a bar are passed over.
 std::vector<int> BarsHolding(const Bars& bars, market::Timeframe timeframe, const std::vector<int>& dates);
 
+// The bar that holds this date, or else the last one before it; -1 if there is neither.
+int LastUpTo(const Bars& bars, market::Timeframe timeframe, int date);
+
 }  // namespace jogeon::terminal::chart

@@ -25,6 +25,7 @@ void Links::NVLink_SetLinkTagData(const CNVLinkInfoItem& item) {
 
 void Links::NVLink_SetMultiCodeLinkTagData(const std::string& title, const std::vector<std::string>& codes) {
     codes_[title] = codes;
+    emit CodesPublished();
 }
 
 std::uint8_t Links::NVLink_GetNewMajorID(host::WindowHandle) {

@@ -1,6 +1,7 @@
 // Shared tags, major ids, accounts and paths, as the terminal gives them to its screens.
 #pragma once
 
+#include <QObject>
 #include <bitset>
 #include <map>
 #include <string>
@@ -12,7 +13,9 @@
 
 namespace jogeon::terminal {
 
-class Links : public host::LinkStore {
+class Links : public QObject, public host::LinkStore {
+    Q_OBJECT
+
 public:
     Links(const std::string& user, const HomeFolder& home, std::vector<std::string> accounts);
 
@@ -35,6 +38,10 @@ public:
 
     // The codes published last under a title.
     std::vector<std::string> CodesOf(const std::string& title) const;
+
+signals:
+    // Codes have been published, and before them the tags that say how they were found.
+    void CodesPublished();
 
 private:
     std::map<std::pair<std::string, std::string>, std::string> tags_;

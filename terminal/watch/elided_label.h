@@ -18,7 +18,8 @@ public:
 
     void SetWhole(const QString& text) {
         whole_ = text.simplified();
-        setToolTip(whole_.toHtmlEscaped());
+        // Rich text breaks its lines. Qt guesses what is rich: a tag leaves it no choice.
+        setToolTip(whole_.isEmpty() ? QString() : "<p>" + whole_.toHtmlEscaped() + "</p>");
         Fit();
     }
     const QString& Whole() const { return whole_; }

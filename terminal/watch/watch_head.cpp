@@ -43,6 +43,7 @@ WatchHead::WatchHead(QWidget* parent)
     column->addLayout(ControlRow());
     column->addWidget(progress_);
     column->addWidget(notice_);
+    notice_->setTextFormat(Qt::PlainText);
     notice_->setWordWrap(true);
     notice_->hide();
     progress_->setTextVisible(false);
@@ -107,7 +108,7 @@ void WatchHead::ShowState(WatchRun::State state) {
 }
 
 void WatchHead::ShowNotice(const QString& text) {
-    notice_->setText(text.toHtmlEscaped());
+    notice_->setText(text);
     notice_->setVisible(!text.isEmpty());
 }
 

@@ -304,7 +304,24 @@ public:
         EXPECT_EQ(CodeOfRow(2).toStdString(), chart->Code()) << "it follows the rows";
         EXPECT_FALSE(chart->View().ShownMarks().bars.empty())
             << "today at least the conditions are true of it";
+        ChartFollowsTheSearch(*chart);
         terminal_->Desk().CloseAll();
+    }
+
+    // With one of the conditions alone more stocks are found, and each is true on more days.
+    void ChartFollowsTheSearch(ChartScreen& chart) {
+        const auto place = [&] { return chart.findChild<QLabel*>("place")->text(); };
+        const std::string code = chart.Code();
+        const QString narrow = place();
+        const int days = chart.View().ShownMarks().days;
+        auto& cells = At<QAbstractScrollArea>(16129);
+        cells.setFocus();
+        QTest::keyClick(&cells, Qt::Key_Space);
+        Search();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return chart.Settled(); }, kPatience));
+        EXPECT_EQ(code, chart.Code()) << "nothing was clicked";
+        EXPECT_NE(narrow, place());
+        EXPECT_GT(chart.View().ShownMarks().days, days);
     }
 
     void WatchOpens() {

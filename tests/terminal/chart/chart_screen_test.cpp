@@ -47,7 +47,6 @@ protected:
     }
     void Publish(const std::vector<std::string>& codes, const std::string& set = {}) {
         links_.NVLink_SetLinkTagData({"CS_RESULT", "CONDSET", set});
-        screen_.OnTagChanged("CS_RESULT", "CONDSET");
         links_.NVLink_SetMultiCodeLinkTagData("조건검색"_cp949, codes);
         Settle();
     }
@@ -254,6 +253,40 @@ TEST_F(ChartScreenTest, WheelDragAndKeysMoveTheBars) {
     EXPECT_GT(Window().BarWidth(), width);
     QTest::keyClick(view_, Qt::Key_Minus);
     EXPECT_NEAR(Window().BarWidth(), width, 1e-9);
+}
+
+TEST_F(ChartScreenTest, AnotherTimeframeShowsTheSameDaysAndAnotherStockItsNewest) {
+    Link(test::kPausing);
+    for (int i = 0; i < 4; ++i) QTest::keyClick(view_, Qt::Key_Plus);
+    QTest::keyClick(view_, Qt::Key_PageUp);
+    QTest::keyClick(view_, Qt::Key_PageUp);
+    const int day = view_->Shown().At(Window().EndVisible() - 1).date;
+    Press("timeframe1");
+    EXPECT_THAT(chart::BarsHolding(view_->Shown().bars, Timeframe::Week, {day}),
+                ElementsAre(Window().EndVisible() - 1));
+    Press("timeframe2");
+    EXPECT_EQ(Window().EndVisible(), Window().Bars()) << "few months: all are in view";
+    Press("timeframe0");
+    EXPECT_EQ(view_->Shown().At(Window().EndVisible() - 1).date, day);
+    Press("timeframe1");
+    QTest::keyClick(view_, Qt::Key_End);
+    Press("timeframe0");
+    EXPECT_EQ(Window().EndVisible(), Window().Bars()) << "the trader went there himself";
+    QTest::keyClick(view_, Qt::Key_Home);
+    Link(test::kOther);
+    EXPECT_EQ(Window().EndVisible(), Window().Bars());
+}
+
+TEST_F(ChartScreenTest, AFrameSaysThatItHasTheFocus) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&screen_));
+    const auto edge = [&] { return view_->grab().toImage().pixelColor(view_->width() - 1, 100); };
+    for (const char* stock : {"", test::kSwinging}) {
+        if (*stock) Link(stock);
+        Find<QLineEdit>("stock").setFocus();
+        EXPECT_EQ(edge(), ToQColor(Color::ChartBack));
+        view_->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(edge(), ToQColor(Color::Accent));
+    }
 }
 
 TEST_F(ChartScreenTest, LegendTellsOfTheBarUnderThePointer) {

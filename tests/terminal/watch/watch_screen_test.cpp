@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <atomic>
 
 #include <gtest/gtest.h>
@@ -121,6 +122,22 @@ protected:
     QThreadPool workers_;
     std::unique_ptr<WatchScreen> screen_;
 };
+
+TEST(WatchHeadTest, ShowsSignsAsTheyAre) {
+    const QString text = "정배열 5 > 20 & 60 < <b>120</b>";
+    WatchHead head;
+    head.ShowDescription(text);
+    const QString tip = head.findChild<QLabel*>("watchDescription")->toolTip();
+    ASSERT_TRUE(Qt::mightBeRichText(tip));
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(tip).toPlainText(), text);
+    head.ShowDescription("");
+    EXPECT_EQ(head.findChild<QLabel*>("watchDescription")->toolTip(), "") << "no empty box";
+
+    head.ShowNotice(text);
+    const auto& notice = *head.findChild<QLabel*>("watchNotice");
+    EXPECT_EQ(notice.text(), text);
+    EXPECT_EQ(notice.textFormat(), Qt::PlainText);
+}
 
 TEST_F(WatchScreenTest, SaysCalmlyThatNothingHasBeenHandedOver) {
     Screen().OnOpened(false);
