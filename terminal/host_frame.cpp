@@ -26,7 +26,6 @@ constexpr char kTagSeparator = 0x1f;
 constexpr int kFirstPane = 176;
 constexpr QSize kFirstSize(kFirstPane + 585, 548);
 constexpr QSize kFirstMaximum(764, 548);
-constexpr int kLeastPane = 30;  // a narrower one isn't shown
 
 const char* TextAt(std::intptr_t address) {
     return reinterpret_cast<const char*>(address);
@@ -65,7 +64,7 @@ void HostFrame::RestoreLastData() {
     host::LinkStore& links = *host::Installed().links;
     const int kept =
         SettingsFile(links, GetUserId(links)).LeftPaneWidth(std::string(kLastDataScreen) + kLastDataItem);
-    const int extra = (kept < kLeastPane ? 0 : kept) - kFirstPane;
+    const int extra = kept - kFirstPane;
     if (wanted_ != before || extra == 0) return;
     const QSize needed = wanted_ + QSize(extra, 0);
     OnSizeMessage(kMinimum, needed);

@@ -163,15 +163,19 @@ void ConditionGrid::FocusRow(int row) {
 }
 
 void ConditionGrid::MarkRow(int row) {
-    PaintLetterBack(row, ColorOf(Color::SequenceMark));
+    PaintLetter(row, ColorOf(Color::SequenceMark), ColorOf(Color::SequenceMarkText));
 }
 
 void ConditionGrid::ClearMarks() {
-    for (int row = 1; row < cells_.GetRowCnt(); ++row) PaintLetterBack(row, fbcolour::kWindow);
+    for (int row = 1; row < cells_.GetRowCnt(); ++row) {
+        PaintLetter(row, fbcolour::kWindow, fbcolour::kWindowText);
+    }
 }
 
-void ConditionGrid::PaintLetterBack(int row, FBColour colour) {
-    cells_.GetCell(row, kColumnLetter).backColour = colour;
+void ConditionGrid::PaintLetter(int row, FBColour back, FBColour text) {
+    CCell& letter = cells_.GetCell(row, kColumnLetter);
+    letter.backColour = back;
+    letter.textColour = text;
     cells_.InvalidateCell(row, kColumnLetter);
 }
 
@@ -179,8 +183,7 @@ void ConditionGrid::PaintLetterBack(int row, FBColour colour) {
 void ConditionGrid::RefreshColors() {
     cells_.SetFixedCellColor(ColorOf(Color::GridHeaderBack));
     for (int row = 1; row < cells_.GetRowCnt(); ++row) {
-        FBColour& back = cells_.GetCell(row, kColumnLetter).backColour;
-        if (back != fbcolour::kWindow) back = ColorOf(Color::SequenceMark);
+        if (cells_.GetCell(row, kColumnLetter).backColour != fbcolour::kWindow) MarkRow(row);
     }
     cells_.viewport()->update();
 }

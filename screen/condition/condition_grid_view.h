@@ -57,7 +57,8 @@ public:
     void FocusRow(int row);
     int FocusedRow() const { return cells_.GetFocusedCellID().row; }
 
-    // Marks the letter of a row as one that the sequential search has reached; and takes all marks away.
+    // Marks the letter of a row as one that the sequential search has reached, by its background and, for the
+    // focused row, which has another, by its text; and takes all marks away.
     void MarkRow(int row);
     void ClearMarks();
 
@@ -74,7 +75,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void PaintLetterBack(int row, FBColour colour);
+    void PaintLetter(int row, FBColour back, FBColour text);
     void MakeHeader();
     void FitContent();
     void MakeCommands();

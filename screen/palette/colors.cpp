@@ -57,6 +57,7 @@ constexpr Entry kTable[] = {
     {Color::TreeFolderEdge, 0x2f86b4, 0x2c6480},
     {Color::ScreenBack, 0xf4f1ef, 0x221e1b},
     {Color::SequenceMark, 0xc0c0c0, 0x68605a},
+    {Color::SequenceMarkText, 0x180096, 0x78d8ff},
     {Color::FBHeaderBack, 0xd2d2d2, 0x3a342f},
     {Color::FBLine, 0x828282, 0x5a524a},
     {Color::HostGridLine, 0xd8d2cd, 0x453e38},

@@ -54,9 +54,10 @@ enum class Color {
     TreeFolder,
     TreeFolderFront,
     TreeFolderEdge,
-    ScreenBack,    // behind the controls of a screen
-    SequenceMark,  // the letter of a condition that the sequential search has reached
-    FBHeaderBack,  // of a grid whose owner has chosen none, as the lines below
+    ScreenBack,        // behind the controls of a screen
+    SequenceMark,      // behind the letter of a condition that the sequential search has reached
+    SequenceMarkText,  // that letter, which the focused row leaves as it is
+    FBHeaderBack,      // of a grid whose owner has chosen none, as the lines below
     FBLine,
     HostGridLine,  // what the terminal's colour map gives for the lines of grids
     WatchNew,      // a stock that has come to match a watched set just now

@@ -15,11 +15,13 @@ constexpr std::uint8_t kReleaseKey = 0x11;
 }  // namespace
 
 SearchCommands::SearchCommands(RequestChannel& channel, ResultFlow& results, ColumnTables& columns,
-                               host::Questions& questions, Gather gather)
+                               host::Questions& questions, host::Questions& expressionQuestions,
+                               Gather gather)
     : channel_(channel),
       results_(results),
       columns_(columns),
       questions_(questions),
+      expressionQuestions_(expressionQuestions),
       gather_(std::move(gather)) {}
 
 // The old result is released even if composing then fails.
@@ -33,8 +35,8 @@ void SearchCommands::Start() {
     Release();
     inputs.prior = results_.Prior();
     const auto payload = inputs.scope == SearchScope::Sequential
-                             ? BuildSequentialRequest(inputs, columns_, questions_)
-                             : ComposeSearch(inputs, columns_, questions_);
+                             ? BuildSequentialRequest(inputs, columns_, expressionQuestions_)
+                             : ComposeSearch(inputs, columns_, expressionQuestions_);
     if (!payload) return;
     searchHandle_ = SearchHandleOf(inputs.header.currentSaved);
     results_.OnSearchSent(SearchedSetOf(inputs, *payload));

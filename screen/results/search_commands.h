@@ -20,9 +20,9 @@ public:
     // What the screen shows at the moment of a search, all but `prior`, which the flow knows.
     using Gather = std::function<SearchInputs()>;
 
-    // All of these outlive this object.
+    // All of these outlive this object. What is wrong with the expression is asked by `expressionQuestions`.
     SearchCommands(RequestChannel& channel, ResultFlow& results, ColumnTables& columns,
-                   host::Questions& questions, Gather gather);
+                   host::Questions& questions, host::Questions& expressionQuestions, Gather gather);
 
     // Starts a search; nothing while a request is out. An unset target is told the user.
     void Start();
@@ -38,6 +38,7 @@ private:
     ResultFlow& results_;
     ColumnTables& columns_;
     host::Questions& questions_;
+    host::Questions& expressionQuestions_;
     const Gather gather_;
     std::string searchHandle_;
 };

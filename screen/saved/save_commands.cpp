@@ -117,7 +117,7 @@ bool SavedConditions::Fits(const std::string& name) {
 bool SavedConditions::SendSave(const Save& save) {
     const auto expression = CompactExpression(
         view_.ExpressionText(), [this](const std::string& text) { return view_.CheckExpression(text); },
-        questions_);
+        expressionQuestions_);
     if (!expression || !Fits(save.name)) return false;
     const HeaderSource header{mirror_.UserId(), currentSaved_.get(), "", view_.BuySelected(), target_};
     const SaveInputs inputs{header, editor_.Conditions(), *expression, mirror_.Version()};

@@ -15,6 +15,7 @@ SavedConditions::SavedConditions(const Parts& parts)
       editor_(parts.editor),
       channel_(parts.channel),
       questions_(parts.questions),
+      expressionQuestions_(parts.expressionQuestions),
       links_(parts.links),
       settings_(parts.settings),
       download_(channel_, mirror_, questions_,

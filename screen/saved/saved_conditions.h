@@ -54,6 +54,7 @@ public:
         ConditionEditor& editor;
         RequestChannel& channel;
         host::Questions& questions;
+        host::Questions& expressionQuestions;  // about what is wrong with the expression
         host::LinkStore& links;
         const ScreenSettings& settings;
     };
@@ -159,6 +160,7 @@ private:
     ConditionEditor& editor_;
     RequestChannel& channel_;
     host::Questions& questions_;
+    host::Questions& expressionQuestions_;
     host::LinkStore& links_;
     const ScreenSettings& settings_;
     SavedTree* tree_ = nullptr;

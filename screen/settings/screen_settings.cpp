@@ -12,7 +12,6 @@ constexpr char kGridSection[] = "0150_GridInfo";
 constexpr char kInterestSection[] = "0150_PortInfo";
 constexpr char kConditionSection[] = "SaveIndex";
 
-constexpr char kLeftPaneDefault[] = "176";
 constexpr std::size_t kShortNumber = 3;  // characters that a small number is read from
 constexpr std::size_t kColorNumber = 9;
 
@@ -114,7 +113,8 @@ void SettingsFile::WriteChanges(SettingGroup group, const ScreenSettings& before
 }
 
 int SettingsFile::LeftPaneWidth(const std::string& key) const {
-    return Atoi(ReadProfileText(path_, kLeftPaneSection, key, kLeftPaneDefault).substr(0, kShortNumber));
+    const int width = Atoi(ReadProfileText(path_, kLeftPaneSection, key).substr(0, kShortNumber));
+    return width < kLeftPaneMinimum ? kLeftPaneWidth : width;
 }
 
 void SettingsFile::WriteLeftPaneWidth(const std::string& key, int width) const {

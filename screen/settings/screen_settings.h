@@ -17,6 +17,10 @@ inline constexpr int kLargeConditions = 0;
 inline constexpr int kNormalLayout = 1;
 inline constexpr int kResultsOnly = 2;
 
+// Pixels of the left pane: at first, and the least that it is shown with.
+inline constexpr int kLeftPaneWidth = 176;
+inline constexpr int kLeftPaneMinimum = 30;
+
 struct ScreenSettings {
     bool changeSize = false;     // the user may size the result grid's columns
     std::uint32_t oddColor = 0;  // row colours, red in the low byte; 0 keeps the grid's own
@@ -57,7 +61,8 @@ public:
     // The group's values that differ.
     void WriteChanges(SettingGroup group, const ScreenSettings& before, const ScreenSettings& after) const;
 
-    // Pixels of the left pane, kept under a key of the host's making; 176 where there is none.
+    // Pixels of the left pane, kept under a key of the host's making; those at first where there is none, or
+    // one that is too narrow to be shown.
     int LeftPaneWidth(const std::string& key) const;
     void WriteLeftPaneWidth(const std::string& key, int width) const;
 

@@ -76,7 +76,7 @@ bool ConditionScreen::CheckExpression(const std::string& text) {
     const ExpressionCheck check = CheckExpressionText(text);
     if (check.valid) return true;
     ExpressionErrorDialog dialog(ExpressionErrorText(text, check.errorPosition));
-    services_.questions->Run("ExpressionErrorDialog", &dialog);
+    expressionQuestions_.Run("ExpressionErrorDialog", &dialog);
     return false;
 }
 

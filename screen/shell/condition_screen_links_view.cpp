@@ -24,7 +24,7 @@ int HostKey(int key) {
 
 void ConditionScreen::WireLinks() {
     form_.OnClick(control::kRealTime, [this] {
-        RealtimeCommand(GatherSearchInputs(), *services_.links, *services_.questions, hostMainWindow_);
+        RealtimeCommand(GatherSearchInputs(), *services_.links, expressionQuestions_, hostMainWindow_);
     });
     form_.OnClick(control::kChart, [this] { resultLinks_.OpenChart(); });
     form_.OnClick(control::kInterestSave, [this] { resultLinks_.SaveInterest(); });

@@ -16,6 +16,16 @@
 #include "screen/text/cp949_qt.h"
 
 namespace jogeon {
+namespace {
+
+// The tooltip shows the text whole where the label cuts it, and as it is, whatever signs are in it.
+void ShowText(QLabel& label, const std::string& text) {
+    label.setText(ToQString(text));
+    label.setToolTip(text.empty() ? QString() : "<p>" + label.text().toHtmlEscaped() + "</p>");
+}
+
+}  // namespace
+
 ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
     : QWidget(parent),
       services_(host::Installed()),
@@ -23,6 +33,7 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       handle_(host::RegisterWindow(*this)),
       form_(this),
       expressionEdit_(*services_.questions),
+      expressionQuestions_(*services_.questions, expressionEdit_),
       codeListButton_(*services_.codeLists),
       conditionGrid_(control::kConditionGrid),
       resultGrid_(*services_.codeLists),
@@ -33,18 +44,20 @@ ConditionScreen::ConditionScreen(host::WindowHandle hostWindow, QWidget* parent)
       conditionsPane_(conditionGrid_, expressionEdit_, panel_),
       editor_(conditionsPane_, *services_.questions, settings_),
       expressionCommands_(
-          expressionEdit_, *services_.questions,
+          expressionEdit_, expressionQuestions_,
           [this](const std::string& text) { return CheckExpression(text); },
           [this] { OnExpressionChanged(); }),
       savedDialogs_(*this, *services_.questions),
-      saved_({*this, savedDialogs_, editor_, channel_, *services_.questions, *services_.links, settings_}),
+      saved_({*this, savedDialogs_, editor_, channel_, *services_.questions, expressionQuestions_,
+              *services_.links, settings_}),
       resultControls_(
           {*this, resultGrid_, resultTabs_, form_.ComboAt(control::kScope),
            form_.ButtonAt(control::kNextPage), codeListButton_, form_.LabelAt(control::kTotalCount),
            form_.LabelAt(control::kReceivedCount), progressBar_},
           *services_.questions, *services_.clock),
       results_(resultControls_, columns_, *services_.links, *services_.questions),
-      search_(channel_, results_, columns_, *services_.questions, [this] { return GatherSearchInputs(); }),
+      search_(channel_, results_, columns_, *services_.questions, expressionQuestions_,
+              [this] { return GatherSearchInputs(); }),
       resultLinks_({resultControls_, results_, services_, hostMainWindow_, settings_, handle_}) {
     conditionGrid_.LinkEditor(editor_);
     PlaceControls();
@@ -193,7 +206,7 @@ void ConditionScreen::RefreshCursor() {
 // --- SavedConditionView
 
 void ConditionScreen::ShowName(const std::string& name) {
-    form_.LabelAt(control::kNameLabel).setText(ToQString(name));
+    ShowText(form_.LabelAt(control::kNameLabel), name);
 }
 
 bool ConditionScreen::BuySelected() const {
@@ -205,10 +218,7 @@ void ConditionScreen::SelectBuy(bool buy) {
 }
 
 void ConditionScreen::ShowTarget(const SearchTarget& target) {
-    QLabel& label = form_.LabelAt(control::kTargetLabel);
-    label.setText(ToQString(target.m_strTargetLabel));
-    const bool cut = label.sizeHint().width() > label.width();
-    label.setToolTip(cut ? label.text() : QString());
+    ShowText(form_.LabelAt(control::kTargetLabel), target.m_strTargetLabel);
 }
 
 void ConditionScreen::EnableSavedCommands(bool enabled) {

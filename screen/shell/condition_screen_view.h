@@ -16,6 +16,7 @@
 #include "screen/condition/condition_grid_view.h"
 #include "screen/condition/conditions_pane.h"
 #include "screen/expression/expression_edit.h"
+#include "screen/expression/expression_questions.h"
 #include "screen/host/services.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/panes/progress_label_widget.h"
@@ -58,7 +59,8 @@ public:
     void OnPickIndex(const CIndexInfo& info, const FieldArray* fields) override;
     void OnPickSaved(std::shared_ptr<CSavedIndexInfo> saved) override;
 
-    // Whether the expression is well formed; if it isn't, the user has been shown where.
+    // Whether the expression is well formed; if it isn't, the user has been shown where, and has the focus in
+    // its box.
     bool CheckExpression(const std::string& text) override;
 
     // What the module's exported functions ask for.
@@ -145,6 +147,7 @@ private:
 
     ScreenForm form_;
     ExpressionEdit expressionEdit_;
+    ExpressionQuestions expressionQuestions_;
     CNVTab resultTabs_;
     CodeListButton codeListButton_;
     ProgressLabel progressBar_;

@@ -8,7 +8,6 @@
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/palette/colors_qt.h"
-#include "screen/settings/screen_settings.h"
 #include "screen/text/bytes.h"
 
 namespace jogeon {
@@ -129,11 +128,9 @@ void ScreenSplitter::SaveWidth(const std::string& key) const {
     SettingsFile(links_, GetUserId(links_)).WriteLeftPaneWidth(key, leftPaneWidth_);
 }
 
-// A width of 0 sets the column to nothing but isn't remembered, nor is one that no pane can have.
 void ScreenSplitter::RestoreWidth(const std::string& key) {
-    const int width = SettingsFile(links_, GetUserId(links_)).LeftPaneWidth(key);
-    if (width > 0) leftPaneWidth_ = width;
-    SetLeftWidth(width);
+    leftPaneWidth_ = SettingsFile(links_, GetUserId(links_)).LeftPaneWidth(key);
+    SetLeftWidth(leftPaneWidth_);
 }
 
 }  // namespace jogeon

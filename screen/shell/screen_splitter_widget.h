@@ -7,6 +7,7 @@
 #include <string>
 
 #include "screen/host/services.h"
+#include "screen/settings/screen_settings.h"
 
 namespace jogeon {
 
@@ -14,9 +15,7 @@ class ScreenSplitter : public QSplitter {
     Q_OBJECT
 
 public:
-    static constexpr int kLeftPaneWidth = 176;  // pixels, at the start and after a double click on the bar
-    static constexpr int kLeftPaneMinimum = 30;
-    static constexpr int kRightPaneWidth = 400;
+    static constexpr int kRightPaneWidth = 400;  // pixels, as all of these
     static constexpr int kRightPaneMinimum = 100;
     static constexpr int kBarWidth = 6;
     static constexpr int kScreenWidth = 585;  // beside the left pane

@@ -74,8 +74,8 @@ struct HeaderSource {
     TargetFields target;
 };
 
-// The screen's `searchHandle` from the moment a header is made: the current set's number, else "99". A set
-// whose save hasn't been answered has no number yet.
+// The screen's `searchHandle` once a search with this set is sent: the set's number, else "99". A set whose
+// save hasn't been answered has no number yet.
 std::string SearchHandleOf(const CSavedIndexInfo* currentSaved);
 
 // A header from the screen. With a current set its name is written unless there is an override; without one

@@ -171,6 +171,7 @@ TEST_F(SettingsDialogTest, EverySettingGoesWhereItIsKept) {
     picked_ = QColor();
     EXPECT_EQ(1, Run([this] {
                   EXPECT_FALSE(The("gridLines").isChecked());
+                  EXPECT_FALSE(The("keyArrow").isChecked());
                   EXPECT_EQ(0x010101u, The<ColorChoice>("evenColor").Chosen());
                   Click("evenColor");  // cancelled
                   Click("oddColorDefault");

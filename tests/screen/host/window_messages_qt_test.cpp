@@ -8,6 +8,15 @@
 namespace jogeon::host {
 namespace {
 
+// Other modules know the messages by these numbers.
+static_assert(kResultDoubleClicked == 0x203 && kInitialUpdate == 0x364);
+static_assert(kPanelAdd == 0x464 && kPanelReplace == 0x465 && kExpressionChanged == 0x4ab);
+static_assert(kOpenScreenLinked == 0x496 && kTagChanged == 0x4ea && kOpenScreen == 0x4eb);
+static_assert(kScreenSize == 0x4ce && kHostChanged == 0x5c2 && kHostQuery == 0x6bf);
+static_assert(kLeftPaneWidth == 0x5df && kLeftPaneShown == 0x6df);
+static_assert(kServerReply == 0x658 && kIgnored == 0x6c6);
+static_assert(kSettingsFill == 0x720 && kSettingsTaken == 0x3021);
+
 class Answering : public QWidget {
 public:
     using QWidget::QWidget;

@@ -49,6 +49,8 @@ constexpr Pair kPairs[] = {
     {FBText, FBMovingRow, kText},
     {FBText, FBHeaderBack, kText},
     {FBText, SequenceMark, kText},
+    {SequenceMarkText, SequenceMark, kText},
+    {SequenceMarkText, FBFocusedRow, kText},
     {FBCheckTick, FBCheckBack, kText},
     {FBCheckFrame, ControlFace, kFaint},
     {ExpressionLetter, ExpressionBack, kText},

@@ -27,7 +27,10 @@ protected:
         inputs.header.target.Group = {"ALL"};
         inputs.conditions = {&first, &skipped, &second};
         inputs.expressionText = " A and not c ";
-        inputs.checkExpression = [this](const std::string&) { return expressionIsValid; };
+        inputs.checkExpression = [this](const std::string&) {
+            ++checks;
+            return expressionIsValid;
+        };
     }
 
     Journal Run() {
@@ -49,6 +52,7 @@ protected:
     CIndexInfo second = test::MakeCondition('C', "0803010008", 3, {{50, "2"}, {60, "10"}});
     SearchInputs inputs;
     bool expressionIsValid = true;
+    int checks = 0;  // of the expression
 };
 
 TEST_F(RealtimeCommandTest, HandsTheCheckedConditionsOverInTheOrderThatReadersRelyOn) {
@@ -64,19 +68,36 @@ TEST_F(RealtimeCommandTest, HandsTheCheckedConditionsOverInTheOrderThatReadersRe
     EXPECT_EQ((links.tags[{"CS_REAL", "CONDMSG"}]), "거래량 5배 + 순위 10위"_cp949);
 }
 
+// With what was handed over last, whatever is missing now.
 TEST_F(RealtimeCommandTest, WithNothingToHandOverTheScreenOpensAllTheSame) {
-    const Journal opened{"open 4 0156"};
-    inputs.header.target.Upjong = 0;
-    EXPECT_EQ(Run(), opened) << "no target";
-    inputs.header.target.Upjong = 1;
-    expressionIsValid = false;
-    EXPECT_EQ(Run(), opened) << "refused expression";
-    expressionIsValid = true;
-    first.m_bChecked = second.m_bChecked = 0;
-    EXPECT_EQ(Run(), opened) << "nothing checked";
-    inputs.conditions.clear();
-    EXPECT_EQ(Run(), opened) << "no condition";
-    EXPECT_TRUE(links.tags.empty());
+    Run();
+    const auto before = links.tags;
+    const SearchInputs good = inputs;
+    const auto noneChecked = [this] { first.m_bChecked = second.m_bChecked = 0; };
+    struct Case {
+        const char* what;
+        int checks;
+        bool expressionIsValid;
+        std::function<void()> spoil;
+    };
+    const Case cases[] = {
+        {"no target", 0, true, [this] { inputs.header.target.Upjong = 0; }},
+        {"no target, bad expression", 0, false, [this] { inputs.header.target.Upjong = 0; }},
+        {"no condition", 0, false, [this] { inputs.conditions.clear(); }},
+        {"bad expression", 1, false, [] {}},
+        {"bad expression, nothing checked", 1, false, noneChecked},
+        {"nothing checked", 1, true, noneChecked},
+    };
+    for (const Case& c : cases) {
+        inputs = good;
+        first.m_bChecked = second.m_bChecked = 1;
+        expressionIsValid = c.expressionIsValid;
+        c.spoil();
+        checks = 0;
+        EXPECT_EQ(Run(), Journal{"open 4 0156"}) << c.what;
+        EXPECT_EQ(checks, c.checks) << c.what;
+    }
+    EXPECT_EQ(links.tags, before);
     EXPECT_TRUE(questions.boxes.empty());
 }
 

@@ -62,7 +62,7 @@ protected:
     test::RecordingResultView view;
     RequestChannel channel{communication, clock, questions, [] {}};
     ResultFlow flow{view, tables, links, questions};
-    SearchCommands commands{channel, flow, tables, questions, [this] { return inputs; }};
+    SearchCommands commands{channel, flow, tables, questions, questions, [this] { return inputs; }};
 };
 
 TEST_F(SearchCommandsTest, ASearchReleasesTheLastOneUnderItsHandle) {

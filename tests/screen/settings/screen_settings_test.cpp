@@ -48,6 +48,12 @@ TEST_F(SettingsFileTest, EachValueReadsByItsOwnRule) {
                         "[SaveIndex]\nConfirm=1000\nDelConfirm= 2 \nInitResult=no\n"));
 }
 
+TEST_F(SettingsFileTest, ArrowKeysSendNothingOnlyWhereTheFileSaysZero) {
+    for (const auto& [text, on] : {std::pair("0", false), {"01", false}, {"1", true}, {"", true}}) {
+        EXPECT_EQ(on, Read(std::string("[0150_GridInfo]\nbKeyArrow=") + text + "\n").keyArrow) << text;
+    }
+}
+
 TEST_F(SettingsFileTest, OnlyWhatChangedIsWrittenAndTheRestOfTheFileStays) {
     const ScreenSettings before = Read("; mine\r\n[SaveIndex]\r\nConfirm=7\r\nOther=1\r\n");
     ScreenSettings after = before;

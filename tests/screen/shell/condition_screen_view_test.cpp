@@ -288,6 +288,21 @@ TEST(ConditionScreenTest, LeftPaneKeepsItsWidthWhileHiddenAndAcrossSessions) {
     EXPECT_EQ(176, splitter.sizes()[0]) << "restoring works once";
 }
 
+TEST(ConditionScreenTest, OnlyAWidthThatAPaneCanHaveIsRestored) {
+    const std::pair<const char*, int> widths[] = {{"0", 176},    {"12", 176}, {"29", 176},  {"30", 30},
+                                                  {"wide", 176}, {"", 176},   {"-50", 176}, {"2400", 240}};
+    for (const auto& [text, width] : widths) {
+        SCOPED_TRACE(text);
+        TestHost host;
+        WriteProfileText(host.SettingsFile(), "0150_SCREEN", "k", text);
+        host.Open();
+        host.Screen().RestoreLeftPaneWidth("k");
+        auto& splitter = *host.frame.findChild<ScreenSplitter*>();
+        EXPECT_EQ(width, splitter.sizes()[0]);
+        EXPECT_EQ(width, splitter.LeftPaneWidth());
+    }
+}
+
 TEST(ConditionScreenTest, HostThatRestoresNothingDisablesRestoring) {
     TestHost host;
     host.frame.queryAnswer = 0;

@@ -1,6 +1,8 @@
 // What leads out of the screen, by real clicks and keys: sequential steps, links, lists, sheets.
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QShortcut>
@@ -14,6 +16,8 @@
 #include "screen/fbgrid/fb_grid_geometry.h"
 #include "screen/fbgrid/fb_grid_widget.h"
 #include "screen/palette/colors_qt.h"
+#include "screen/text/bytes.h"
+#include "tests/screen/support/images.h"
 #include "tests/screen/support/test_host.h"
 
 namespace jogeon::test {
@@ -109,6 +113,42 @@ TEST_F(LinksTest, StepsOfASequentialSearchAreMarkedInTheList) {
     EXPECT_EQ("[1]전체검색", tabs.tabText(0));
 }
 
+TEST_F(LinksTest, NeitherTheSameScopeAgainNorAFailureBeginsTheSequenceAnew) {
+    ChooseSequential();
+    Step();
+    Scopes().showPopup();
+    QTest::keyClick(Scopes().view(), Qt::Key_Return);
+    EXPECT_EQ("1", PaintedMarks());
+    Press(21039);
+    host.Reply("T0");
+    EXPECT_EQ("12", PaintedMarks());
+    EXPECT_EQ("A&!B|C 03", Step());
+}
+
+// The focused row's own background covers that of the mark.
+TEST_F(LinksTest, AMarkShowsOnTheFocusedRowToo) {
+    const auto hasMarkText = [&](int row) {
+        const auto rect = Conditions().Geometry().GetCellRect(row, kColumnLetter);
+        const QImage cell =
+            Conditions().viewport()->grab({rect->left, rect->top, rect->width, rect->height}).toImage();
+        return HasNear(cell, cell.width() / 2, cell.height() / 2, ToQColor(Color::SequenceMarkText).rgb(),
+                       cell.width());
+    };
+    ASSERT_EQ(1, Conditions().GetFocusedCellID().row);
+    ChooseSequential();
+    for (const Theme theme : {Theme::Light, Theme::Dark}) {
+        SetTheme(theme);
+        host.Screen().ReadHostColors();
+        EXPECT_FALSE(hasMarkText(1));
+        Step();
+        EXPECT_TRUE(hasMarkText(1));
+        EXPECT_FALSE(hasMarkText(2));
+        QTest::keyClick(&Scopes(), Qt::Key_Home);
+        ChooseSequential();
+    }
+    SetTheme(Theme::Light);
+}
+
 TEST_F(LinksTest, WhateverChangesTheSearchBeginsTheSequenceAnew) {
     const std::vector<std::pair<const char*, std::function<void()>>> resets = {
         {"another scope", [&] { QTest::keyClick(&Scopes(), Qt::Key_Home); }},
@@ -118,12 +158,23 @@ TEST_F(LinksTest, WhateverChangesTheSearchBeginsTheSequenceAnew) {
         {"a shown value", [&] { ClickCell(2, 3); }},
         {"a moved condition", [&] { ClickCell(2, 6), ClickCell(2, 6); }},
         {"a typed letter", [&] { QTest::keyClick(&host.Control<ExpressionEdit>(21089), Qt::Key_Space); }},
+        {"a button of the expression",
+         [&] {
+             host.Control<ExpressionEdit>(21089).Select({0, 1});
+             Press(21100), Press(21100);
+         }},
+        {"another target", [&] { Press(21026); }},
+        {"other columns", [&] { host.settings.changed = host::SettingsDialog::kReloadGrid, Press(21051); }},
         {"the expression's message",
          [&] { host::SendMessage(host::HandleOf(&host.Screen()), host::kExpressionChanged, 0, 0); }},
         {"the same set again", [&] { OpenFirmSet(0); }},
         {"another set", [&] { OpenFirmSet(1); }},
     };
     host.questions.answers = std::deque<host::Answer>(20, host::Answer::No);
+    host.questions.onRun = [](const std::string&, void* dialog) {
+        static_cast<QDialog*>(dialog)->accept();
+        return true;
+    };
     for (const auto& [what, reset] : resets) {
         SCOPED_TRACE(what);
         host.Control<ExpressionEdit>(21089).SetExpressionText("A and !B or C");
@@ -145,7 +196,37 @@ TEST_F(LinksTest, TheThemeRepaintsTheMarks) {
     SetTheme(Theme::Dark);
     host.Screen().ReadHostColors();
     EXPECT_EQ(ColorOf(Color::SequenceMark), Conditions().GetCell(1, kColumnLetter).backColour);
+    EXPECT_EQ(ColorOf(Color::SequenceMarkText), Conditions().GetCell(1, kColumnLetter).textColour);
     SetTheme(Theme::Light);
+}
+
+TEST_F(LinksTest, ARefusedExpressionGetsTheFocus) {
+    const std::string tooLong = "A" + ReplaceAll(std::string(50, '.'), ".", " and !A");
+    struct Case {
+        const char* text;
+        int button;
+        bool steps;
+    };
+    const Case cases[] = {{"A and", 21039, false},         {"A and", 21039, true},
+                          {"(A or C)", 21039, true},       {"A and", 21048, false},
+                          {"A and", 21024, false},         {"A and", 21100, false},
+                          {tooLong.c_str(), 21039, false}, {tooLong.c_str(), 21024, false}};
+    host.questions.onRun = [](const std::string&, void* dialog) {
+        auto* line = static_cast<QDialog*>(dialog)->findChild<QLineEdit*>();
+        if (line) line->setText("이름");
+        static_cast<QDialog*>(dialog)->accept();
+        return true;
+    };
+    auto& box = host.Control<ExpressionEdit>(21089);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.text) + " by " + std::to_string(c.button));
+        QTest::keyClick(&Scopes(), c.steps ? Qt::Key_End : Qt::Key_Home);
+        box.SetExpressionText(c.text);
+        Scopes().setFocus();
+        Press(c.button);
+        EXPECT_NE('T', host.communication.LastPayload().front());
+        EXPECT_EQ(&box, host.frame.focusWidget());
+    }
 }
 
 // Published with each result: what found it, then the codes.

@@ -18,6 +18,7 @@ namespace jogeon::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 constexpr char kColumns[] =
     "[Basic_Fid]\r\n9001=종목명;12\r\n9003=현재가;8\r\n9006=거래량;6\r\n"
@@ -25,6 +26,10 @@ constexpr char kColumns[] =
 constexpr char kLayout[] =
     "[1]\r\nFid=9001\r\nHeader=종목명\r\nWidth=100\r\n[2]\r\nFid=9003\r\nHeader=현재가\r\nWidth=80\r\n"
     "[3]\r\nFid=9006\r\nHeader=거래량\r\nWidth=60\r\nHidden=1\r\n[4]\r\nFid=\r\nWidth=50\r\nHidden=1\r\n";
+
+constexpr char kOwnSet[] =
+    "[Version]\r\nver=000.001\r\n\r\n[07]\r\nName=내조건\r\nUpjong=1\r\nGroup=ALL|\r\nExp=A\r\nCount=1\r\n"
+    "00=0601010008;A;1;0;;\r\n";
 
 // A dialog that does what the test tells it.
 class ScriptedSettings : public host::SettingsDialog {
@@ -43,6 +48,7 @@ protected:
     SettingsTest() {
         WriteText(host.folder.Path() / "System/XcsFid.dat", kColumns);
         WriteText(host.folder.Path() / "Screen/Dlg/0150TempGrid.dlg", kLayout);
+        WriteText(host.folder.Path() / "User/trader_SaveIndex.dat", kOwnSet);
         host::Services services = host::Installed();
         services.settings = &settings;
         host::Install(services);
@@ -52,6 +58,11 @@ protected:
         emit tree.itemDoubleClicked(tree.topLevelItem(tree.topLevelItemCount() - 1)->child(0), 0);
     }
 
+    QString OwnSetInTree() { return host.Control<QTreeWidget>(21001).topLevelItem(0)->child(0)->text(0); }
+    QImage FirstCell() {
+        Grid().ClearSelection();
+        return Grid().viewport()->grab({0, 0, 40, 40}).toImage();
+    }
     ResultGrid& Grid() { return host.Control<ResultGrid>(21104); }
     void Press(int button) { host.Control<QAbstractButton>(button).click(); }
     std::filesystem::path LayoutFile() { return host.folder.Path() / "User/trader_0150TempGrid01.dlg"; }
@@ -93,6 +104,26 @@ TEST_F(SettingsTest, ButtonAndHeaderOpenTheDialogAtTheirPage) {
     EXPECT_THAT(settings.asked, ElementsAre(std::pair(screen, 0), std::pair(screen, 1)));
 }
 
+TEST_F(SettingsTest, AStartTakesWhatTheFileSaysAndTheEndLeavesItThere) {
+    host.Close();
+    for (const char* key : {"bChangeSize", "lineBorder"}) WriteSetting("0150_GridInfo", key, "1");
+    WriteSetting("0150_GridInfo", "bKeyArrow", "0");
+    WriteSetting("0150_GridInfo", "oddColor", "255");
+    WriteSetting("0150_PortInfo", "RegLink", "5");
+    WriteSetting("0150_PortInfo", "ConfirmOverwrite", "1");
+    host.Open();
+    EXPECT_EQ(QHeaderView::Interactive, Grid().horizontalHeader()->sectionResizeMode(0));
+    ShowResult();
+    EXPECT_EQ(QColor(255, 0, 0), FirstCell().pixelColor(1, 1));
+    host.journal.clear();
+    Grid().SelectRange(2, 2);
+    QTest::keyClick(&Grid(), Qt::Key_Up);
+    EXPECT_THAT(host.journal, IsEmpty());
+    host.Close();
+    EXPECT_EQ("5", ReadProfileText(host.SettingsFile(), "0150_PortInfo", "RegLink"));
+    EXPECT_EQ("1", ReadProfileText(host.SettingsFile(), "0150_PortInfo", "ConfirmOverwrite"));
+}
+
 TEST_F(SettingsTest, WithoutAChangeNothingIsReadAgain) {
     ShowResult();
     settings.onRun = [this](host::GridColumns&) {
@@ -114,11 +145,12 @@ TEST_F(SettingsTest, SettingsWorkAtOnceAndResultsStay) {
         WriteSetting("SaveIndex", "Expand", "2");
         return 1;
     };
+    EXPECT_EQ("내조건", OwnSetInTree());
     Press(21051);
+    EXPECT_EQ("[07]내조건", OwnSetInTree());
     EXPECT_EQ(2, Grid().GetRowCount());
     EXPECT_EQ(QHeaderView::Interactive, Grid().horizontalHeader()->sectionResizeMode(0));
-    Grid().ClearSelection();
-    const QImage cell = Grid().viewport()->grab({0, 0, 40, 40}).toImage();
+    const QImage cell = FirstCell();
     EXPECT_EQ(QColor(255, 0, 0), cell.pixelColor(1, 1));
     EXPECT_EQ(QColor(255, 0, 0), cell.pixelColor(1, Grid().rowHeight(0) - 1)) << "no line";
     EXPECT_TRUE(host.Control<QAbstractButton>(21021).isVisible()) << "the layout isn't the dialog's";

@@ -45,6 +45,23 @@ TEST_P(TextRoomTest, EveryTextFitsItsPlace) {
     ForEachDialog(host, [](const QDialog& dialog) { EXPECT_GT(ExpectRoomIn(dialog), 0); });
 }
 
+TEST(FreeTextTest, ANameThatIsCutShowsWholeInItsTooltip) {
+    const QString longest(40, u'힣');  // as many as a name has
+    TestHost host;
+    WriteText(host.folder.Path() / "System/NorvikSaveIndex.dat",
+              "[00]\r\nName=" + longest.toStdString() + "\r\nExp=A\r\nCount=1\r\n00=0601010008;A;1;0;;\r\n" +
+                  "[01]\r\nName=짧은\r\nExp=A\r\nCount=1\r\n00=0601010008;A;1;0;;\r\n");
+    host.Open();
+    auto& tree = host.Control<QTreeWidget>(21001);
+    const QTreeWidgetItem* firm = tree.topLevelItem(tree.topLevelItemCount() - 1);
+    auto& name = host.Control<QLabel>(21019);
+    emit tree.itemDoubleClicked(firm->child(0), 0);
+    EXPECT_EQ(longest, name.text());
+    EXPECT_EQ("<p>" + longest + "</p>", name.toolTip());
+    emit tree.itemDoubleClicked(firm->child(1), 0);
+    EXPECT_EQ("<p>짧은</p>", name.toolTip());
+}
+
 INSTANTIATE_TEST_SUITE_P(Points, TextRoomTest, testing::Values(9, 10));
 
 }  // namespace

@@ -1,4 +1,6 @@
 // The screen under a light and a dark desktop: what it looks like, and that a change leaves nothing behind.
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QTest>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -35,8 +37,9 @@ protected:
         host.Reply("VE");
         auto& tree = host.Control<QTreeWidget>(21001);
         emit tree.itemDoubleClicked(tree.topLevelItem(tree.topLevelItemCount() - 1)->child(0), 0);
+        host.Control<QComboBox>(21098).setCurrentIndex(3);
+        host.Control<QAbstractButton>(21039).click();
         host.Reply("T1        0100010001000100019003K000660     181000  ");
-        host.Control<CFBGrid>(16129).GetCell(1, kLetter).backColour = ColorOf(Color::SequenceMark);
         auto* indicator = tree.findItems("주가이평돌파", Qt::MatchExactly | Qt::MatchRecursive).value(0);
         ASSERT_TRUE(indicator);
         emit tree.itemClicked(indicator, 0);

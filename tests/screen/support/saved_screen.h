@@ -187,7 +187,7 @@ public:
     ConditionEditor editor{conditions, questions, settings};
     ScriptedSavedQuestions dialogs;
     RecordingTree tree{file, catalogue};
-    SavedConditions saved{{view, dialogs, editor, channel, questions, links, settings}};
+    SavedConditions saved{{view, dialogs, editor, channel, questions, questions, links, settings}};
 };
 
 }  // namespace jogeon::test

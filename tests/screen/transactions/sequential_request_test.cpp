@@ -94,6 +94,7 @@ TEST_F(SequentialRequestTest, OneConditionSendsTheSameAtEveryPress) {
 TEST_F(SequentialRequestTest, ARefusalLeavesTheStepWhereItStood) {
     ASSERT_TRUE(Compose());
     const std::string text = view.expression;
+    expressionIsValid = false;  // which isn't asked before the brackets are gone
     for (const char* brackets : {"(A and !C) or D", "A or D)", "( A"}) {
         view.expression = brackets;
         questions.boxes.clear();
@@ -104,7 +105,6 @@ TEST_F(SequentialRequestTest, ARefusalLeavesTheStepWhereItStood) {
         EXPECT_EQ(questions.boxes[0].caption, "순차검색"_cp949);
     }
     view.expression = text;
-    expressionIsValid = false;
     EXPECT_FALSE(Compose());
     expressionIsValid = true;
     EXPECT_EQ(editor.SequenceStep(), 1);
