@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "terminal/chart/canvas.h"
 #include "terminal/chart/date_axis.h"
@@ -28,7 +29,7 @@ struct Axis {
     const ValueScale& scale;
     double apart;  // of the lines, in heights of the text
     double least;  // step
-    QString (*text)(double);
+    std::function<QString(double)> text;
 };
 
 QString LowerText(double value) {
@@ -36,8 +37,9 @@ QString LowerText(double value) {
 }
 
 std::vector<Axis> AxesOf(const Scene& scene) {
+    const auto volumeText = [most = scene.volume.Top()](double shares) { return VolumeText(shares, most); };
     std::vector<Axis> axes{{scene.panes.price, scene.price, kLinesApart, 1, PriceText},
-                           {scene.panes.volume, scene.volume, kLinesApartBelow, 1, VolumeText}};
+                           {scene.panes.volume, scene.volume, kLinesApartBelow, 1, volumeText}};
     if (scene.content.study.kind != Lower::None)
         axes.push_back({scene.panes.lowerCurves, scene.lower, kLinesApartBelow, 0, LowerText});
     return axes;
@@ -113,7 +115,7 @@ int AxisWidth(const QFontMetrics& metrics, const Content& content) {
         volume = std::max(volume, bar.volume);
     }
     int width = metrics.horizontalAdvance(LowerText(-100.5));
-    for (const QString& text : {PriceText(price), VolumeText(volume), VolumeText(9.99e5)})
+    for (const QString& text : {PriceText(price), VolumeText(volume, volume), VolumeText(9.99e5, 0)})
         width = std::max(width, metrics.horizontalAdvance(text));
     return width + 2 * kTextGap;
 }

@@ -16,7 +16,8 @@ constexpr int kDatePadding = 5;
 QString ValueText(const Scene& scene, QPoint at) {
     const Panes& panes = scene.panes;
     if (panes.price.contains(at)) return PriceText(std::round(scene.price.ValueAt(at.y())));
-    if (panes.volume.contains(at)) return VolumeText(std::max(0.0, scene.volume.ValueAt(at.y())));
+    if (panes.volume.contains(at))
+        return VolumeText(std::max(0.0, scene.volume.ValueAt(at.y())), scene.volume.Top());
     if (panes.lowerCurves.contains(at)) return NumberText(scene.lower.ValueAt(at.y()), 1);
     return {};
 }

@@ -85,8 +85,8 @@ QString PriceText(double won) {
     return NumberText(won);
 }
 
-QString VolumeText(double shares) {
-    if (shares < kMillion) return NumberText(shares);
+QString VolumeText(double shares, double most) {
+    if (most < kMillion) return NumberText(shares);
     return NumberText(shares / kThousand) + "K";
 }
 

@@ -71,8 +71,9 @@ struct Scene {
     const ValueScale lower;
 };
 
-// Texts as the axis has them. Prices are in whole won; a volume of a million or more in thousands: "1,234K".
+// Texts as the axis has them. Prices are in whole won; volumes in thousands, "1,234K", where the most that is
+// in view is a million or more.
 QString PriceText(double won);
-QString VolumeText(double shares);
+QString VolumeText(double shares, double most);
 
 }  // namespace jogeon::terminal::chart

@@ -25,6 +25,7 @@ public:
     ValueScale(ValueRange range, double top, double bottom);
 
     double YOf(double value) const { return bottom_ - (value - range_.low) * pixels_; }
+    double Top() const { return range_.high; }
     double ValueAt(double y) const { return range_.low + (bottom_ - y) / pixels_; }
 
     // Multiples of 1, 2 or 5 times a power of ten inside the range, at least `apart` pixels from each other.

@@ -24,7 +24,7 @@ QString Name0150() {
 // The widget in `screen` that the keyboard goes to.
 QWidget* FocusStop(QWidget& screen) {
     if (QWidget* last = screen.focusWidget()) return last;
-    if (screen.focusPolicy() != Qt::NoFocus) return &screen;
+    if (screen.focusPolicy() != Qt::NoFocus || screen.focusProxy()) return &screen;
     for (QWidget* at = screen.nextInFocusChain(); at != &screen; at = at->nextInFocusChain()) {
         if (screen.isAncestorOf(at) && at->isVisible() && (at->focusPolicy() & Qt::TabFocus)) return at;
     }

@@ -7,6 +7,7 @@
 
 #include "screen/results/grid_layout.h"
 #include "screen/text/cp949_qt.h"
+#include "terminal/look/list_look.h"
 #include "screen/transactions/result_columns.h"
 
 namespace jogeon::terminal {
@@ -52,8 +53,8 @@ ColumnsPage::ColumnsPage(QWidget* parent) : QWidget(parent) {
 void ColumnsPage::SetUpList() {
     list_.setObjectName("columns");
     list_.setHeaderLabels({tr("열"), tr("너비")});
-    list_.setRootIsDecorated(false);
-    list_.setUniformRowHeights(true);
+    list_.setPalette(ListPalette());
+    LookLikeList(list_);
     list_.setDragDropMode(QAbstractItemView::InternalMove);
     list_.header()->setStretchLastSection(false);
     list_.header()->setSectionResizeMode(kName, QHeaderView::Stretch);

@@ -30,6 +30,7 @@ constexpr char kPlainSet[] = "골든크로스와 거래량 증가";  // has no b
 constexpr QSize kDesk(1000, 640);                         // of the window with other screens beside the first
 constexpr char kWatched[] = "10:20:00";                   // until when a day is replayed
 constexpr double kLayoutScale = 0.6;
+constexpr int kSmallest = 0;  // of the files
 
 // Controls of screen 0150.
 constexpr int kSave = 21024, kReorder = 22017, kImport = 22018, kTarget = 21026, kHelp = 21037;
@@ -230,7 +231,6 @@ QPixmap InterestSave(Studio& studio) {
 }
 
 QPixmap Interest(Studio& studio) {
-    InterestSave(studio);
     QWidget& screen = studio.OpenScreen("0130");
     studio.At<QTabWidget>("pages").setCurrentIndex(0);
     studio.Settle();
@@ -372,7 +372,8 @@ void TakeSome(const Picture (&pictures)[count], const QString& theme, const QStr
     for (const Picture& one : pictures) {
         if (!asked(one)) continue;
         const QString file = folder + "/" + one.name + ".png";
-        if (!one.take(studio).save(file)) throw std::runtime_error(file.toStdString() + ": can't be saved");
+        if (!one.take(studio).save(file, "PNG", kSmallest))
+            throw std::runtime_error(file.toStdString() + ": can't be saved");
         std::printf("%s\n", file.toUtf8().constData());
         std::fflush(stdout);
         studio.Terminal().Desk().CloseAll();

@@ -4,6 +4,7 @@
 #include "server/market/calendar.h"
 #include "terminal/chart/bar_fold.h"
 #include "terminal/chart/date_axis.h"
+#include "terminal/chart/scene.h"
 #include "terminal/chart/study.h"
 #include "terminal/chart/value_scale.h"
 #include "terminal/texts/value_texts.h"
@@ -115,6 +116,8 @@ TEST(ValueScaleTest, NumbersAreWrittenWithSeparators) {
     EXPECT_EQ(NumberText(market::kMissing), "");
     EXPECT_EQ(PercentText(1.254), "+1.25%");
     EXPECT_EQ(PercentText(-0.001), "0.00%");
+    EXPECT_EQ(VolumeText(500'000, 999'999), "500,000");
+    EXPECT_EQ(VolumeText(500'000, 1'500'000), "500K") << "as its neighbours on the axis";
 }
 
 // The weekdays from a date on.
