@@ -7,8 +7,8 @@
 
 #include "screen/results/grid_layout.h"
 #include "screen/text/cp949_qt.h"
-#include "terminal/look/list_look.h"
 #include "screen/transactions/result_columns.h"
+#include "terminal/look/list_look.h"
 
 namespace jogeon::terminal {
 namespace {
