@@ -1,4 +1,4 @@
-// Which pictures there are, and what is done on the screen for each.
+// The pictures of one theme, as files.
 #pragma once
 
 #include <QString>

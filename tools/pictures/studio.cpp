@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPainter>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -16,7 +18,7 @@ namespace {
 
 constexpr int kPatience = 120'000;  // milliseconds, for a sanitized build on a busy machine
 constexpr int kBoxDrawn = 100;      // milliseconds
-constexpr int kAdd = 31050, kNew = 21021, kIndicators = 21001, kSearch = 21039;
+constexpr int kAdd = 31050, kIndicators = 21001, kSearch = 21039;
 
 terminal::Options OptionsOf(const QString& user, const QString& home, const QString& theme,
                             const QString& language) {
@@ -58,6 +60,30 @@ void Studio::OpenSet(const QString& name) {
 
 void Studio::Search() {
     Press(kSearch);
+}
+
+void Studio::OpenAndSearch() {
+    OpenSet(kSet);
+    Search();
+}
+
+void Studio::ClickRow(int row) {
+    auto& grid = At<QTableView>(kGrid);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
+                      grid.visualRect(grid.model()->index(row, 0)).center());
+    Settle();
+}
+
+void Studio::SaveSets(std::initializer_list<const char*> names) {
+    for (const char* name : names) {
+        Press(kNew);
+        Add("RSI");
+        OnDialogs([name](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>()->setText(name);
+            return true;
+        });
+        Press(kSave);
+    }
 }
 
 void Studio::Pick(const QString& indicator) {

@@ -37,9 +37,17 @@ public:
         return Found(Frame().findChild<Widget*>(QString::number(control)), QString::number(control));
     }
 
+    static constexpr char kSet[] = "정배열 눌림목";  // has brackets, and stocks that match
+    static constexpr int kNew = 21021, kSave = 21024, kGrid = 21104;
+
     void Press(int control);
     void OpenSet(const QString& name);
     void Search();
+    void OpenAndSearch();
+    void ClickRow(int row);
+
+    // Saves a small set under each name.
+    void SaveSets(std::initializer_list<const char*> names);
 
     // Shows an indicator of the tree in the panel; adds it as a condition.
     void Pick(const QString& indicator);
