@@ -62,7 +62,7 @@ std::optional<Options> ReadOptions(const QStringList& arguments, int* status) {
     const QCommandLineOption home("home", "Keep data files and the user's own files here.", "DIR");
     const QCommandLineOption market("market", "Search this market file; without it, a generated market.",
                                     "FILE");
-    const QCommandLineOption store("store", "Keep the users' condition sets in this file, not in the home.",
+    const QCommandLineOption store("store", "Keep what the users save in this file, not in the home.",
                                    "FILE");
     const QCommandLineOption server(
         "server", "Use the service at this address, which jogeond serve offers, not one of this process.",

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "screen/files/profile_text.h"
+#include "screen/host/shared_tags.h"
 
 namespace jogeon {
 namespace {
@@ -33,7 +34,7 @@ bool IsUserId(std::string_view id) {
 
 std::string GetUserId(host::LinkStore& links) {
     int found = 0;
-    std::string id = links.NVLink_GetLinkTagData("SharedMainKey", "USER_ID", &found);
+    std::string id = links.NVLink_GetLinkTagData(host::tags::kUserKey, host::tags::kUserTag, &found);
     return IsUserId(id) ? id : std::string(kDefaultUserId);
 }
 

@@ -1,5 +1,6 @@
 #include "screen/results/code_list.h"
 
+#include "screen/host/shared_tags.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon {
@@ -7,7 +8,7 @@ namespace jogeon {
 void PublishCodeList(host::LinkStore& links, ResultView& view, const std::vector<std::string>& codes,
                      const std::string& conditionSet) {
     const std::string title = "조건검색"_cp949;
-    links.NVLink_SetLinkTagData({"CS_RESULT", "CONDSET", conditionSet});
+    links.NVLink_SetLinkTagData({host::tags::kResultKey, host::tags::kResultSetTag, conditionSet});
     links.NVLink_SetMultiCodeLinkTagData(title, codes);
     view.SetCodeList(title, codes);
 }

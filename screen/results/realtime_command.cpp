@@ -3,16 +3,16 @@
 #include <vector>
 
 #include "screen/condition/index_info.h"
+#include "screen/host/shared_tags.h"
 #include "screen/target/search_target.h"
 #include "screen/text/bytes.h"
 
 namespace jogeon {
 namespace {
 
+using namespace host::tags;
+
 constexpr char kWatchScreen[] = "0156";
-constexpr char kMainKey[] = "CS_REAL";
-constexpr char kConditionTag[] = "REALINFO";
-constexpr char kTextTag[] = "CONDMSG";
 
 std::string DescriptionsOf(const std::vector<const CIndexInfo*>& conditions) {
     std::vector<std::string> texts;
@@ -36,11 +36,12 @@ void RealtimeCommand(const SearchInputs& inputs, host::LinkStore& links, host::Q
     const auto condition =
         HasUniverse(inputs.header.target) ? BuildRealtimeCondition(inputs, questions) : std::nullopt;
     if (!condition) return mainWindow.OpenScreen(kWatchScreen);
-    links.NVLink_SetLinkTagData({kMainKey, kConditionTag, *condition});
-    links.NVLink_SetLinkTagData({kMainKey, kTextTag, DescriptionsOf(CheckedConditions(inputs.conditions))});
+    links.NVLink_SetLinkTagData({kWatchKey, kWatchSetTag, *condition});
+    links.NVLink_SetLinkTagData(
+        {kWatchKey, kWatchTextTag, DescriptionsOf(CheckedConditions(inputs.conditions))});
     mainWindow.OpenScreen(kWatchScreen);
-    mainWindow.TellTagChanged(kMainKey, kTextTag);
-    mainWindow.TellTagChanged(kMainKey, kConditionTag);
+    mainWindow.TellTagChanged(kWatchKey, kWatchTextTag);
+    mainWindow.TellTagChanged(kWatchKey, kWatchSetTag);
 }
 
 }  // namespace jogeon

@@ -12,7 +12,6 @@ namespace jogeon {
 namespace {
 
 constexpr int kSequentialScope = 3;
-constexpr int kFirstGridRow = 2;  // row 1 is the header
 
 // How the scope list names a search on its tab; a sequential search counts as one of everything.
 std::string ScopeLabel(int scope) {
@@ -112,7 +111,7 @@ void ResultFlow::PlaceUnderTab(std::unique_ptr<ResultSet> result, int scope) {
 void ResultFlow::ShowPage(const ResultSet& result, std::size_t firstRow) {
     UpdateNext(result);
     WriteRows(result, firstRow);
-    const int gridRow = static_cast<int>(firstRow) + kFirstGridRow;
+    const int gridRow = static_cast<int>(firstRow) + kFirstResultRow;
     view_.ClearSelection();
     view_.ScrollCellInView(gridRow, 2);
     view_.SelectRow(gridRow);
@@ -125,7 +124,7 @@ void ResultFlow::WriteRows(const ResultSet& result, std::size_t firstRow) {
     view_.LockUpdate(true);
     view_.SetRowCount(static_cast<int>(rows) + 1);
     view_.SetRows(result.rows, firstRow, rows, GridColumnsOf(result));
-    view_.RefreshRows(static_cast<int>(firstRow) + kFirstGridRow);
+    view_.RefreshRows(static_cast<int>(firstRow) + kFirstResultRow);
     view_.LockUpdate(false);
     view_.Redraw();
 }

@@ -12,12 +12,12 @@
 #include "screen/palette/header_style_qt.h"
 #include "screen/results/result_cell_qt.h"
 #include "screen/results/result_model_qt.h"
+#include "screen/results/result_view_interface.h"
 #include "screen/transactions/result_columns.h"
 
 namespace jogeon {
 namespace {
 
-constexpr int kFirstRow = 2;    // grid row of the first result row
 constexpr int kRowPadding = 5;  // pixels of a row beyond its text's height
 constexpr int kHeaderPadding = 8;
 constexpr int kMinNameWidth = 64;  // pixels; a stock's name stays readable
@@ -41,9 +41,10 @@ ResultGrid::ResultGrid(host::CodeLists& lists, QWidget* parent)
     SetUpHeaders();
     RefreshColors();
     connect(this, &QTableView::clicked, this,
-            [this](const QModelIndex& at) { emit RowClicked(at.row() + kFirstRow, at.column() + 1); });
-    connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& at) { emit RowDoubleClicked(at.row() + kFirstRow, at.column() + 1); });
+            [this](const QModelIndex& at) { emit RowClicked(at.row() + kFirstResultRow, at.column() + 1); });
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& at) {
+        emit RowDoubleClicked(at.row() + kFirstResultRow, at.column() + 1);
+    });
 }
 
 void ResultGrid::SetUpHeaders() {
@@ -158,12 +159,12 @@ void ResultGrid::SetValue(int row, int column, const std::string& text) {
         SetColHeader(column, text);
         return;
     }
-    model_->SetCell(row - kFirstRow, column - 1, text);
+    model_->SetCell(row - kFirstResultRow, column - 1, text);
     if (locks_ == 0) model_->FlushChanges();
 }
 
 std::string ResultGrid::GetValue(int row, int column) const {
-    if (row != 1) return model_->Cell(row - kFirstRow, column - 1);
+    if (row != 1) return model_->Cell(row - kFirstResultRow, column - 1);
     return HasColumn(column) ? Layout()[static_cast<std::size_t>(column) - 1].header : std::string();
 }
 
@@ -191,7 +192,7 @@ void ResultGrid::EmptyGrid() {
 std::vector<int> ResultGrid::GetSelectedRows() const {
     std::vector<int> rows;
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + kFirstRow);
+        for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + kFirstResultRow);
     }
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
@@ -199,11 +200,11 @@ std::vector<int> ResultGrid::GetSelectedRows() const {
 }
 
 void ResultGrid::SelectRange(int firstRow, int lastRow) {
-    const int first = std::max(firstRow, kFirstRow);
+    const int first = std::max(firstRow, kFirstResultRow);
     const int last = std::min(lastRow, GetRowCount());
     if (first > last) return;
-    const QModelIndex top = model_->index(first - kFirstRow, VisibleColumnNear(1) - 1);
-    const QModelIndex bottom = model_->index(last - kFirstRow, 0);
+    const QModelIndex top = model_->index(first - kFirstResultRow, VisibleColumnNear(1) - 1);
+    const QModelIndex bottom = model_->index(last - kFirstResultRow, 0);
     selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
     selectionModel()->select(QItemSelection(top.siblingAtColumn(0), bottom),
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -225,10 +226,10 @@ int ResultGrid::VisibleColumnNear(int column) const {
 }
 
 void ResultGrid::ScrollCellInView(int row, int column) {
-    if (row < kFirstRow || row > GetRowCount()) return;
+    if (row < kFirstResultRow || row > GetRowCount()) return;
     // Rows just inserted come into the scroll bar's range only now, else when the event loop runs again.
     updateGeometries();
-    scrollTo(model_->index(row - kFirstRow, VisibleColumnNear(column) - 1));
+    scrollTo(model_->index(row - kFirstResultRow, VisibleColumnNear(column) - 1));
 }
 
 // --- looks
@@ -279,7 +280,7 @@ void ResultGrid::CopySelection() const {
 }
 
 QString ResultGrid::CopiedText(int row, int column) const {
-    return model_->Copied(row - kFirstRow, column - 1);
+    return model_->Copied(row - kFirstResultRow, column - 1);
 }
 
 QString ResultGrid::SelectedText() const {

@@ -3,17 +3,16 @@
 #include <algorithm>
 #include <numeric>
 
+#include "screen/host/shared_tags.h"
 #include "screen/results/code_list.h"
 #include "screen/results/name_cell.h"
 
 namespace jogeon {
 namespace {
 
+using namespace host::tags;
+
 constexpr char kChartScreen[] = "0615";
-constexpr char kMainKey[] = "ReturnMainKey";
-constexpr char kCodeTag[] = "JCODE";
-constexpr char kSecondCodeTag[] = "J_ECODE";
-constexpr int kFirstRow = 2;
 
 // The rows from `first` to `last`.
 std::vector<int> Rows(int first, int last) {
@@ -32,14 +31,14 @@ void ResultLinks::SetCodeTags(const std::string& mainKey, std::string_view text)
 
 void ResultLinks::ShareCode(const std::string& mainKey, const std::string& code) {
     host::LinkStore& links = *parts_.services.links;
-    links.NVLink_SetLinkTagData({mainKey, kCodeTag, code});
-    links.NVLink_SetLinkTagData({mainKey, kSecondCodeTag, code});
+    links.NVLink_SetLinkTagData({mainKey, kStockTag, code});
+    links.NVLink_SetLinkTagData({mainKey, kSecondStockTag, code});
 }
 
 void ResultLinks::SendCode(const std::string& code) {
     if (!parts_.mainWindow.Handle()) return;
-    ShareCode(kMainKey, code);
-    parts_.mainWindow.TellTagChanged(kMainKey, kCodeTag);
+    ShareCode(kStockKey, code);
+    parts_.mainWindow.TellTagChanged(kStockKey, kStockTag);
 }
 
 void ResultLinks::SendCodeLink(std::string_view text) {
@@ -51,7 +50,7 @@ void ResultLinks::SendCellLink(int row, int column) {
 }
 
 void ResultLinks::OnRowDoubleClicked(int row, host::WindowHandle grid) {
-    if (row < kFirstRow) return;
+    if (row < kFirstResultRow) return;
     SendCodeLink(parts_.view.GetValue(row, NameColumn()));
     parts_.mainWindow.TellRowChosen(grid);
 }
@@ -71,7 +70,7 @@ int ResultLinks::HandleGridKey(int key) {
 void ResultLinks::ChooseCode(const std::string& code) {
     SendCode(code);
     ResultView& view = parts_.view;
-    for (int row = kFirstRow; row <= view.GetRowCount(); ++row) {
+    for (int row = kFirstResultRow; row <= view.GetRowCount(); ++row) {
         if (BehindMarketLetter(view.GetValue(row, NameColumn())) != code) continue;
         view.ScrollCellInView(row, NameColumn());
         return view.SelectRow(row);
@@ -87,12 +86,12 @@ void ResultLinks::OpenChart() {
     if (!result || result->total == 0 || result->received == 0 || rows.empty()) {
         return parts_.mainWindow.OpenScreen(kChartScreen);
     }
-    ShareCode(kMainKey, CodeOf(rows.front()));
-    parts_.mainWindow.OpenLinkedScreen(kChartScreen, kMainKey, kCodeTag);
+    ShareCode(kStockKey, CodeOf(rows.front()));
+    parts_.mainWindow.OpenLinkedScreen(kChartScreen, kStockKey, kStockTag);
 }
 
 void ResultLinks::SaveInterest() {
-    SaveCodes(Rows(kFirstRow, parts_.view.GetRowCount()));
+    SaveCodes(Rows(kFirstResultRow, parts_.view.GetRowCount()));
 }
 
 void ResultLinks::SaveSelectedInterest() {
@@ -117,7 +116,7 @@ int ResultLinks::PublishRowCodes(int first, int last) {
 
 std::vector<int> ResultLinks::ChosenRows() const {
     std::vector<int> rows = parts_.view.GetSelectedRows();
-    return rows.size() > 1 ? rows : Rows(kFirstRow, parts_.view.GetRowCount());
+    return rows.size() > 1 ? rows : Rows(kFirstResultRow, parts_.view.GetRowCount());
 }
 
 int ResultLinks::NameColumn() const {

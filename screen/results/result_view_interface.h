@@ -14,6 +14,8 @@
 
 namespace jogeon {
 
+inline constexpr int kFirstResultRow = 2;  // of the grid
+
 class ResultView {
 public:
     virtual ~ResultView() = default;

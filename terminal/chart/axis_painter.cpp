@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "terminal/chart/canvas.h"
+#include "terminal/chart/chart_texts.h"
 #include "terminal/chart/date_axis.h"
-#include "terminal/chart/texts.h"
 #include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {

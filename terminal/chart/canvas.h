@@ -50,8 +50,6 @@ public:
     // Nothing is drawn outside of `logical` until the canvas goes.
     void Clip(const QRect& logical) { painter_.setClipRect(ToDevice(logical)); }
 
-    QPainter& Painter() { return painter_; }
-
 private:
     int RowOf(const ValueScale& scale, double value) const { return ToDevice(scale.YOf(value)); }
     void Smooth(std::span<const FoldedValue> values, const ValueScale& scale, QColor color);

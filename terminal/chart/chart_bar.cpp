@@ -58,12 +58,12 @@ QToolButton* ChartBar::AddButton(const QString& text, const QString& name, const
 }
 
 void ChartBar::AddSteps() {
-    back_ = AddButton(QStringLiteral("◀"), "back", {});
+    back_ = AddButton(QStringLiteral("◀"), "back", tr("이전 종목"));
     place_ = new QLabel(this);
     place_->setObjectName("place");
     place_->setAlignment(Qt::AlignCenter);
     layout()->addWidget(place_);
-    forward_ = AddButton(QStringLiteral("▶"), "forward", {});
+    forward_ = AddButton(QStringLiteral("▶"), "forward", tr("다음 종목"));
     connect(back_, &QToolButton::clicked, this, [this] { emit StepAsked(-1); });
     connect(forward_, &QToolButton::clicked, this, [this] { emit StepAsked(1); });
 }
@@ -127,10 +127,8 @@ void ChartBar::SetPlace(int place, int count) {
                    : QStringLiteral("%1/%2").arg(place < 0 ? "-" : QString::number(place + 1)).arg(count));
     back_->setEnabled(count > 0);
     forward_->setEnabled(count > 0);
-    back_->setToolTip(tr("이전 종목") + "\n" + where);
-    forward_->setToolTip(tr("다음 종목") + "\n" + where);
-    back_->setAccessibleName(tr("이전 종목"));
-    forward_->setAccessibleName(tr("다음 종목"));
+    back_->setToolTip(back_->accessibleName() + "\n" + where);
+    forward_->setToolTip(forward_->accessibleName() + "\n" + where);
 }
 
 void ChartBar::Tell() {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "screen/palette/colors_qt.h"
-#include "terminal/chart/texts.h"
+#include "terminal/chart/chart_texts.h"
 #include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal::chart {

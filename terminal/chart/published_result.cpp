@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "screen/host/shared_tags.h"
 #include "screen/text/cp949.h"
 
 namespace jogeon::terminal::chart {
@@ -19,7 +20,8 @@ const std::string& PublishedResult::Step(const std::string& code, int by) const 
 }
 
 PublishedResult ReadPublished(Links& links) {
-    return {links.CodesOf("조건검색"_cp949), links.NVLink_GetLinkTagData("CS_RESULT", "CONDSET", nullptr)};
+    return {links.CodesOf("조건검색"_cp949),
+            links.NVLink_GetLinkTagData(host::tags::kResultKey, host::tags::kResultSetTag, nullptr)};
 }
 
 }  // namespace jogeon::terminal::chart

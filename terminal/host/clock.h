@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+#include <climits>
 #include <map>
 #include <memory>
 #include <utility>

@@ -3,15 +3,15 @@
 
 #include "screen/host/services.h"
 #include "screen/palette/theme_qt.h"
+#include "screen/shell/host_color_numbers.h"
 
 namespace jogeon::terminal {
 
 class HostColors : public host::ColorMap {
 public:
-    // Index 0 is the background, 0x34 that of radio buttons, 0x41 the line of grids; others are the
-    // background.
+    // All but the line of grids are the background.
     std::uint32_t GetColor(int index, int) override {
-        return ColorOf(index == 0x41 ? Color::HostGridLine : Color::ScreenBack, ApplicationTheme());
+        return ColorOf(index == kGridLineColor ? Color::HostGridLine : Color::ScreenBack, ApplicationTheme());
     }
 };
 

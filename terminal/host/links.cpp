@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "screen/host/shared_tags.h"
+
 namespace jogeon::terminal {
 
 // Major id 0 is no id.
@@ -10,7 +12,7 @@ Links::Links(const std::string& user, const HomeFolder& home, std::vector<std::s
       accounts_(std::move(accounts)),
       home_(QFile::encodeName(home.path).toStdString()),
       configuration_(QFile::encodeName(home.configuration).toStdString()) {
-    tags_[{"SharedMainKey", "USER_ID"}] = user;
+    tags_[{host::tags::kUserKey, host::tags::kUserTag}] = user;
 }
 
 std::string Links::NVLink_GetLinkTagData(const std::string& mainKey, const std::string& tag, int* found) {

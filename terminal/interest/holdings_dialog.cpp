@@ -18,7 +18,6 @@ namespace jogeon::terminal {
 namespace {
 
 constexpr QSize kSize(620, 460);
-constexpr QSize kButtonSize(80, 26);
 constexpr int kRefusedHeight = 130;
 constexpr int kAccountPlaces = 16;
 
@@ -105,19 +104,9 @@ QWidget* HoldingsDialog::MakeRefused() {
 }
 
 QLayout* HoldingsDialog::MakeFoot() {
-    auto* cancel = new QPushButton(tr("취소"));
-    cancel->setAutoDefault(false);
-    ok_->setDefault(true);
-    connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("계좌")));
-    row->addWidget(accounts_);
-    row->addStretch(1);
-    for (QPushButton* button : {ok_, cancel}) {
-        button->setMinimumSize(kButtonSize);
-        row->addWidget(button);
-    }
+    QHBoxLayout* row = MakeDialogFoot(*this, *ok_, tr("취소"));
+    row->insertWidget(0, new QLabel(tr("계좌")));
+    row->insertWidget(1, accounts_);
     return row;
 }
 

@@ -13,6 +13,7 @@
 
 #include "terminal/interest/holdings_csv.h"
 #include "terminal/interest/portfolio_book.h"
+#include "terminal/interest/portfolio_texts.h"
 
 namespace jogeon::terminal {
 
@@ -20,8 +21,6 @@ class HoldingsDialog : public QDialog {
     Q_OBJECT
 
 public:
-    using FormatAccount = std::function<QString(const std::string& number)>;
-
     // Opens on the account `chosen`, if the book has it. The references outlive the dialog.
     HoldingsDialog(const HoldingsFile& file, const PortfolioBook& book, const FormatAccount& format,
                    const std::string& chosen, QWidget* parent = nullptr);

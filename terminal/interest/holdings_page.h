@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "terminal/interest/portfolio_book.h"
+#include "terminal/interest/portfolio_texts.h"
 #include "terminal/interest/stock_table.h"
 
 namespace jogeon::terminal {
@@ -18,9 +19,6 @@ class HoldingsPage : public QWidget {
     Q_OBJECT
 
 public:
-    // How an account's number is shown.
-    using FormatAccount = std::function<QString(const std::string& number)>;
-
     // The references outlive the page.
     HoldingsPage(PortfolioBook& book, host::Questions& questions, FormatAccount format,
                  QWidget* parent = nullptr);

@@ -17,7 +17,6 @@ namespace jogeon::terminal {
 namespace {
 
 constexpr int kWidth = 380;
-constexpr QSize kButtonSize(80, 26);
 
 QRadioButton* Radio(const QString& caption, const char* name, QButtonGroup* group) {
     auto* radio = new QRadioButton(caption);
@@ -57,6 +56,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     name_->setObjectName("name");
     name_->setPlaceholderText(tr("그룹 이름"));
     advice_->setObjectName("advice");
+    ok_->setObjectName("save");
     advice_->setWordWrap(true);
     for (const service::InterestGroup& group : groups_)
         list_->addItem(tr("%1 (%2종목)").arg(ToQString(group.name)).arg(group.stocks.size()),
@@ -70,7 +70,7 @@ InterestDialog::InterestDialog(std::vector<service::InterestGroup> groups, std::
     layout->addLayout(MakeChoices());
     layout->addWidget(advice_);
     layout->addStretch(1);
-    layout->addLayout(MakeButtons());
+    layout->addLayout(MakeDialogFoot(*this, *ok_, tr("취소")));
     Preset(first);
     for (QRadioButton* radio : {existing_, new_, adds_, replaces_})
         connect(radio, &QRadioButton::toggled, this, &InterestDialog::Judge);
@@ -104,22 +104,6 @@ QLayout* InterestDialog::MakeChoices() {
     grid->addWidget(name_, 2, 1);
     grid->setColumnStretch(1, 1);
     return grid;
-}
-
-QLayout* InterestDialog::MakeButtons() {
-    auto* cancel = new QPushButton(tr("취소"));
-    cancel->setAutoDefault(false);
-    ok_->setObjectName("save");
-    ok_->setDefault(true);
-    connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    for (QPushButton* button : {ok_, cancel}) {
-        button->setMinimumSize(kButtonSize);
-        row->addWidget(button);
-    }
-    return row;
 }
 
 InterestDialog::Choice InterestDialog::Chosen() const {

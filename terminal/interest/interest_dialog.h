@@ -38,7 +38,6 @@ public:
 private:
     void Preset(const Choice& first);
     QLayout* MakeChoices();
-    QLayout* MakeButtons();
     const service::InterestGroup* Group() const;  // the chosen one that exists, or null
     std::size_t StocksAfter() const;
     QString Advice() const;

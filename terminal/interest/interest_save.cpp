@@ -2,43 +2,19 @@
 
 #include <QGuiApplication>
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <cstring>
 #include <exception>
 #include <utility>
 
 #include "screen/host/window_messages_qt.h"
-#include "screen/settings/settings_block.h"
 #include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/settings/interest_settings.h"
 
 namespace jogeon::terminal {
 namespace {
 
 using service::InterestGroup;
 using service::Verdict;
-
-// The settings of a screen that doesn't answer are all 0.
-class ScreenAnswers {
-public:
-    explicit ScreenAnswers(host::WindowHandle window) {
-        host::SendMessage(window, host::kSettingsFill, 0, reinterpret_cast<std::intptr_t>(block_.data()));
-    }
-
-    bool ConfirmOverwrite() const { return Value(settings_block::kConfirmOverwrite) == 1; }
-    bool RegLink() const { return Value(settings_block::kRegLink) == 1; }
-
-private:
-    std::uint32_t Value(std::size_t offset) const {
-        std::uint32_t value = 0;
-        for (std::size_t i = 0; i < sizeof value; ++i)
-            value |= std::to_integer<std::uint32_t>(block_[offset + i]) << (8 * i);
-        return value;
-    }
-
-    std::array<std::byte, settings_block::kSize> block_{};
-};
 
 }  // namespace
 
@@ -61,8 +37,9 @@ int InterestSave::SaveInterest(host::WindowHandle window, const std::vector<std:
         Tell(workplace_.questions, tr("저장할 종목이 없습니다. 먼저 검색하십시오."), Caption());
         return 0;
     }
-    const ScreenAnswers settings(window);
-    job_ = Job{window, stocks, settings.ConfirmOverwrite(), settings.RegLink()};
+    ScreenSettings settings;
+    AskInterestSettings(window, settings);
+    job_ = Job{window, stocks, settings.confirmOverwrite == 1, settings.regLink == 1};
     AskGroups();
     return 1;
 }

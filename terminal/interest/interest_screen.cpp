@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
-#include "screen/host/link_info_item.h"
 #include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
 #include "terminal/look/list_look.h"
@@ -11,8 +10,6 @@
 
 namespace jogeon::terminal {
 namespace {
-
-constexpr char kChart[] = "0615";
 
 // Keys of the kept state.
 constexpr char kPageKey[] = "interest/page";
@@ -107,7 +104,7 @@ void InterestScreen::ShareStock(const std::string& code) {
 
 void InterestScreen::OpenChart(const std::string& code) {
     ShareStock(code);
-    emit ScreenAsked(kChart, true);
+    emit ScreenAsked(kChartScreen, true);
 }
 
 // Screens choose targets among the accounts as they are now.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QString>
-#include <optional>
+#include <functional>
 #include <string>
 
 #include "screen/host/services.h"
@@ -19,6 +19,9 @@ QString FaultText(const RefusedLine& line);
 
 // "▲ 120" and "▼ 120"; "-" for a change that isn't known.
 QString ChangeText(double won);
+
+// Shows an account's number.
+using FormatAccount = std::function<QString(const std::string& number)>;
 
 // CP949 of a name. Text that has no CP949 form is no text: empty, which no name may be.
 std::string Bytes(const QString& text);

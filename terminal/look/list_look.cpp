@@ -1,6 +1,8 @@
 #include "terminal/look/list_look.h"
 
+#include <QDialog>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QStyledItemDelegate>
@@ -24,7 +26,8 @@ constexpr std::pair<QPalette::ColorRole, Color> kRoles[] = {
     {QPalette::HighlightedText, Color::GridText},
 };
 
-constexpr int kCaptionPadding = 22;  // pixels of a button beyond its caption's width
+constexpr QSize kFootButton(80, 26);  // at least
+constexpr int kCaptionPadding = 22;   // pixels of a button beyond its caption's width
 
 int RowHeight(const QWidget& list) {
     return list.fontMetrics().height() + kRowPadding;
@@ -103,6 +106,21 @@ QPushButton* MakeButton(const char* name, const QString& caption, const QString&
 
 void FitToCaption(QPushButton& button) {
     button.setFixedWidth(button.fontMetrics().horizontalAdvance(button.text()) + kCaptionPadding);
+}
+
+QHBoxLayout* MakeDialogFoot(QDialog& dialog, QPushButton& ok, const QString& reject) {
+    auto* other = new QPushButton(reject);
+    other->setAutoDefault(false);
+    ok.setDefault(true);
+    QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+    QObject::connect(other, &QPushButton::clicked, &dialog, &QDialog::reject);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    for (QPushButton* button : {&ok, other}) {
+        button->setMinimumSize(kFootButton);
+        row->addWidget(button);
+    }
+    return row;
 }
 
 }  // namespace jogeon::terminal

@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QString>
 
+class QDialog;
+class QHBoxLayout;
 class QPushButton;
 class QTableView;
 class QTreeView;
@@ -32,5 +34,8 @@ QPushButton* MakeButton(const char* name, const QString& caption, const QString&
 
 // No wider than its caption needs.
 void FitToCaption(QPushButton& button);
+
+// The foot of a dialog, to the right: `ok`, which Enter presses and which accepts, and a button that rejects.
+QHBoxLayout* MakeDialogFoot(QDialog& dialog, QPushButton& ok, const QString& reject);
 
 }  // namespace jogeon::terminal

@@ -4,11 +4,12 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "terminal/screens/stock_link.h"
+
 namespace jogeon::terminal {
 namespace {
 
 constexpr char kScreen0150[] = "0150";
-constexpr char kChart[] = "0615";
 constexpr char kOpenScreens[] = "screens/open";
 constexpr char kPlaces[] = "screens/places";
 constexpr int kPlacesForm = 1;
@@ -19,6 +20,13 @@ QString NameOf(const ScreenKind& kind) {
 
 QString Name0150() {
     return ScreenDesk::tr("조건검색");
+}
+
+// Writes what the dock's screen keeps.
+void SaveScreen(const ScreenDock& dock, QSettings& file) {
+    file.beginGroup(dock.objectName());
+    dock.Screen()->SaveState(file);
+    file.endGroup();
 }
 
 // The widget in `screen` that the keyboard goes to.
@@ -39,7 +47,7 @@ ScreenDesk::ScreenDesk(MainWindow& window, const Workplace& workplace, UserState
     for (const ScreenKind& kind : kinds_) AddDock(kind);
     const HostFrame& frame = window_.Frame();
     connect(&frame, &HostFrame::ScreenAsked, this, &ScreenDesk::Open);
-    connect(&frame, &HostFrame::ResultChosen, this, [this] { Open(kChart, true); });
+    connect(&frame, &HostFrame::ResultChosen, this, [this] { Open(kChartScreen, true); });
     connect(&frame, &HostFrame::TagChanged, this,
             [this](const std::string& mainKey, const std::string& tag) { PassOn(nullptr, mainKey, tag); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { NoteFocus(now); });
@@ -122,9 +130,7 @@ void ScreenDesk::Save(QSettings& file) const {
     QStringList open;
     for (const ScreenDock* dock : OpenDocks()) {
         open.append(dock->Number());
-        file.beginGroup(dock->objectName());
-        dock->Screen()->SaveState(file);
-        file.endGroup();
+        SaveScreen(*dock, file);
     }
     file.setValue(kOpenScreens, open);
     file.setValue(kPlaces, window_.saveState(kPlacesForm));
@@ -210,11 +216,7 @@ void ScreenDesk::OpenInRoom(ScreenDock& dock) {
 }
 
 void ScreenDesk::Close(ScreenDock& dock) {
-    if (QSettings* file = state_.Kept()) {
-        file->beginGroup(dock.objectName());
-        dock.Screen()->SaveState(*file);
-        file->endGroup();
-    }
+    if (QSettings* file = state_.Kept()) SaveScreen(dock, *file);
     const QSize had = dock.size();
     const bool leavesRoom = !dock.isFloating() && AloneInItsArea(dock);
     if (active_ == &dock) active_ = nullptr;

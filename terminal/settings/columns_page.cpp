@@ -16,7 +16,6 @@ namespace {
 enum Column { kName, kWidth };
 constexpr int kIndexRole = Qt::UserRole;
 constexpr QSize kListSize(260, 300);  // the least, so that most columns are in sight
-constexpr int kRowPadding = 6;        // pixels of a row beyond its text's height
 constexpr int kWidthPadding = 24;     // of the widths' column beyond its header
 
 }  // namespace
@@ -95,7 +94,6 @@ QTreeWidgetItem* ColumnsPage::MakeItem(int index) const {
     item->setData(kWidth, Qt::DisplayRole, column.width);
     item->setTextAlignment(kWidth, Qt::AlignRight | Qt::AlignVCenter);
     item->setData(kName, kIndexRole, index);
-    item->setSizeHint(kName, {0, fontMetrics().height() + kRowPadding});
     const bool isName = column.fid == kNameColumnFid;
     item->setCheckState(kName, column.shown || isName ? Qt::Checked : Qt::Unchecked);
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
@@ -108,7 +106,10 @@ QTreeWidgetItem* ColumnsPage::MakeItem(int index) const {
 void ColumnsPage::Show(std::vector<host::GridColumnChoice> columns) {
     columns_ = std::move(columns);
     list_.clear();
-    for (int index = 0; index < std::ssize(columns_); ++index) list_.addTopLevelItem(MakeItem(index));
+    for (int index = 0; index < std::ssize(columns_); ++index) {
+        list_.addTopLevelItem(MakeItem(index));
+        LookLikeRow(*list_.topLevelItem(index));
+    }
     list_.setCurrentItem(list_.topLevelItem(0));
     ShowCurrent();
 }

@@ -7,7 +7,7 @@ namespace jogeon::terminal {
 
 InterestPage::InterestPage(QWidget* parent)
     : SettingsPage(parent),
-      regLink_(tr("저장한 뒤 관심종목 화면 열기")),
+      regLink_(tr("저장한 뒤 관심그룹 화면 열기")),
       confirmOverwrite_(tr("있는 그룹의 종목을 바꾸기 전에 묻기")) {
     regLink_.setObjectName("regLink");
     confirmOverwrite_.setObjectName("confirmOverwrite");

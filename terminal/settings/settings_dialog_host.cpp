@@ -1,34 +1,15 @@
 #include "terminal/settings/settings_dialog_host.h"
 
 #include <algorithm>
-#include <array>
 
 #include "screen/files/data_paths.h"
 #include "screen/host/window_messages_qt.h"
 #include "screen/results/column_choice.h"
 #include "screen/results/grid_layout_files.h"
-#include "screen/settings/settings_block.h"
+#include "terminal/settings/interest_settings.h"
 
 namespace jogeon::terminal {
 namespace {
-
-using Block = std::array<std::byte, settings_block::kSize>;
-
-std::intptr_t AddressOf(Block& block) {
-    return reinterpret_cast<std::intptr_t>(block.data());
-}
-
-void AskInterestSettings(host::WindowHandle view, ScreenSettings& settings) {
-    Block block{};
-    host::SendMessage(view, host::kSettingsFill, 0, AddressOf(block));
-    TakeSettingsBlock(block.data(), settings);
-}
-
-void TellInterestSettings(host::WindowHandle view, const ScreenSettings& settings) {
-    Block block{};
-    FillSettingsBlock(settings, block.data());
-    host::SendMessage(view, host::kSettingsTaken, settings_block::kAgreed << 8, AddressOf(block));
-}
 
 bool Offers(const std::vector<host::GridColumnChoice>& columns, const std::string& fid) {
     return std::ranges::any_of(columns, [&](const auto& column) { return column.fid == fid; });

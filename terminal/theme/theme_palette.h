@@ -1,4 +1,4 @@
-// The desktop's colours in our two themes, as Qt's widgets take them.
+// The colours of all windows in our two themes, as Qt's widgets take them.
 #pragma once
 
 #include <QPalette>

@@ -667,7 +667,7 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
 <context>
     <name>jogeon::terminal::InterestPage</name>
     <message>
-        <source>저장한 뒤 관심종목 화면 열기</source>
+        <source>저장한 뒤 관심그룹 화면 열기</source>
         <translation>Open the interest group screen after saving</translation>
     </message>
     <message>
@@ -849,7 +849,7 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
         <translation>In the chart</translation>
     </message>
     <message>
-        <source>관심종목 화면에서</source>
+        <source>관심그룹 화면에서</source>
         <translation>In the interest groups</translation>
     </message>
 </context>
@@ -1106,10 +1106,6 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
     <message>
         <source>시장 시각</source>
         <translation>Market time</translation>
-    </message>
-    <message>
-        <source>재생: %1</source>
-        <translation>Replay: %1</translation>
     </message>
     <message>
         <source>시작</source>

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 
 #include "screen/palette/colors_qt.h"
-#include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_texts.h"
 
 namespace jogeon::terminal {
@@ -85,8 +84,7 @@ QLayout* WatchHead::ControlRow() {
 }
 
 void WatchHead::ShowStart(const service::WatchStart& start) {
-    const QString date = DateText(start.date);
-    day_->setText(start.replay ? tr("재생: %1").arg(date) : date);
+    day_->setText(watch_texts::Day(start));
     progress_->setRange(start.opens, start.closes);
     ShowTime(start.opens);
 }

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "terminal/watch/elided_label.h"
+#include "terminal/look/elided_label.h"
 #include "terminal/watch/watch_run.h"
 
 namespace jogeon::terminal {
@@ -18,8 +18,8 @@ class WatchHead : public QWidget {
 public:
     explicit WatchHead(QWidget* parent = nullptr);
 
-    void ShowName(const QString& name) { name_->SetWhole(name); }
-    void ShowDescription(const QString& text) { description_->SetWhole(text); }
+    void ShowName(const QString& name) { name_->ShowText(name); }
+    void ShowDescription(const QString& text) { description_->ShowText(text); }
     void ShowStart(const service::WatchStart& start);
     void ShowTime(int milliseconds);
     void ShowState(WatchRun::State state);

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include "screen/host/shared_tags.h"
 #include "screen/text/cp949_qt.h"
 #include "screen/transactions/condition_header.h"
 #include "terminal/screens/stock_link.h"
@@ -12,11 +13,7 @@
 namespace jogeon::terminal {
 namespace {
 
-constexpr char kMainKey[] = "CS_REAL";
-constexpr char kSetTag[] = "REALINFO";
-constexpr char kDescriptionTag[] = "CONDMSG";
-
-constexpr char kChart[] = "0615";
+using namespace host::tags;
 
 constexpr int kMargin = 8;
 constexpr int kFirstSpeed = 10;
@@ -92,8 +89,7 @@ void WatchScreen::Wire() {
     connect(head_, &WatchHead::SpeedChosen, &run_, &WatchRun::SetSpeed);
     connect(&run_, &WatchRun::Opened, this, [this](const service::WatchStart& start) {
         head_->ShowStart(start);
-        const QString date = DateText(start.date);
-        day_ = start.replay ? tr("재생: %1").arg(date) : date;
+        day_ = watch_texts::Day(start);
         emit TitleChanged();
     });
     connect(&run_, &WatchRun::NewsCame, this, &WatchScreen::OnNews);
@@ -116,7 +112,7 @@ void WatchScreen::AnnounceFrom(WatchTable& table, const Model& model, const QSor
             [this, codeAt](const QModelIndex& at) { Announce(codeAt(at)); });
     connect(&table, &QTableView::doubleClicked, this, [this, codeAt](const QModelIndex& at) {
         Announce(codeAt(at));
-        emit ScreenAsked(kChart, true);
+        emit ScreenAsked(kChartScreen, true);
     });
 }
 
@@ -127,15 +123,15 @@ QString WatchScreen::Title() const {
 // Whoever hands a set over opens the screen first and tells of the tags then, all of which are written: what
 // is watched from here on isn't begun again there.
 void WatchScreen::OnOpened(bool) {
-    const std::string set = workplace_.links.NVLink_GetLinkTagData(kMainKey, kSetTag, nullptr);
+    const std::string set = workplace_.links.NVLink_GetLinkTagData(kWatchKey, kWatchSetTag, nullptr);
     if (!set.empty() && set != watched_) Watch(set);
 }
 
 void WatchScreen::OnTagChanged(const std::string& mainKey, const std::string& tag) {
-    if (mainKey != kMainKey) return;
-    if (tag == kDescriptionTag) ShowDescription();
-    if (tag != kSetTag) return;
-    const std::string set = workplace_.links.NVLink_GetLinkTagData(kMainKey, kSetTag, nullptr);
+    if (mainKey != kWatchKey) return;
+    if (tag == kWatchTextTag) ShowDescription();
+    if (tag != kWatchSetTag) return;
+    const std::string set = workplace_.links.NVLink_GetLinkTagData(kWatchKey, kWatchSetTag, nullptr);
     if (!set.empty() && (set != watched_ || !run_.Alive())) Watch(set);
 }
 
@@ -150,7 +146,7 @@ void WatchScreen::Watch(const std::string& conditionSet) {
 
 void WatchScreen::ShowDescription() {
     head_->ShowDescription(
-        ToQString(workplace_.links.NVLink_GetLinkTagData(kMainKey, kDescriptionTag, nullptr)));
+        ToQString(workplace_.links.NVLink_GetLinkTagData(kWatchKey, kWatchTextTag, nullptr)));
 }
 
 void WatchScreen::Restart() {

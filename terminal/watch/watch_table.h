@@ -18,9 +18,9 @@ class WatchTable : public QTableView {
     Q_OBJECT
 
 public:
-    // `widths` in pixels, one for each column but the last, which takes the rest.
     explicit WatchTable(QWidget* parent = nullptr);
 
+    // `widths` in pixels, one for each column but the last, which takes the rest.
     void SetColumns(QAbstractItemModel& model, const std::vector<int>& widths);
 
     // What stands in the middle while there is no row.

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QTime>
 
+#include "terminal/texts/value_texts.h"
+
 namespace jogeon::terminal::watch_texts {
 namespace {
 
@@ -12,6 +14,12 @@ QString Translated(const char* text) {
 }
 
 }  // namespace
+
+QString Day(const service::WatchStart& start) {
+    const QString date = DateText(start.date);
+    if (!start.replay) return date;
+    return Translated(QT_TRANSLATE_NOOP("jogeon::terminal::WatchScreen", "재생: %1")).arg(date);
+}
 
 QString Time(int milliseconds) {
     return QTime::fromMSecsSinceStartOfDay(milliseconds).toString(QStringLiteral("HH:mm:ss"));

@@ -1,4 +1,4 @@
-// How the watch writes times and conditions.
+// How the watch writes days, times and conditions.
 #pragma once
 
 #include <QString>
@@ -7,6 +7,9 @@
 #include "server/service/watches.h"
 
 namespace jogeon::terminal::watch_texts {
+
+// The day that is watched: "2025-04-30", or "재생: 2025-04-30".
+QString Day(const service::WatchStart& start);
 
 QString Time(int milliseconds);  // since midnight: "09:31:25"
 

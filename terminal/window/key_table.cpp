@@ -82,7 +82,7 @@ constexpr KeyGroup kGroups[] = {
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "결과에서"), kResults},
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "왼쪽 창에서"), kTree},
     {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "차트에서"), kChart},
-    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "관심종목 화면에서"), kInterest},
+    {QT_TRANSLATE_NOOP("jogeon::terminal::KeyPage", "관심그룹 화면에서"), kInterest},
 };
 
 QString Translated(const char* text) {

@@ -1,4 +1,4 @@
-// The keys of the terminal and of screen 0150, as a page for the reader.
+// The keys of the terminal and of its screens, as a page for the reader.
 #pragma once
 
 #include <QString>

@@ -44,8 +44,8 @@ private:
     void BuildFileMenu();
     void BuildScreenMenu(const QList<ScreenLine>& known);
     void BuildViewMenu();
-    void BuildThemes(QMenu& view);
-    void BuildLanguages(QMenu& view);
+    void BuildThemes(QMenu& menu);
+    void BuildLanguages(QMenu& menu);
     void BuildHelpMenu();
     void ListOpenScreens();
     QAction* AddChoice(QMenu& menu, QActionGroup& group, const QString& text, const QString& name);

@@ -1,29 +1,11 @@
 #include "terminal/window/status_line.h"
 
-#include <QPainter>
-#include <QStyle>
-
 #include "terminal/texts/value_texts.h"
 
 namespace jogeon::terminal {
 namespace {
 
 constexpr int kRemarkShown = 15'000;  // milliseconds
-
-// A label that gives way to others in its row.
-class GivingLabel : public QLabel {
-public:
-    using QLabel::QLabel;
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-        style()->drawItemText(&painter, contentsRect(), Qt::AlignVCenter, palette(), isEnabled(), shown,
-                              foregroundRole());
-    }
-};
 
 }  // namespace
 
@@ -41,7 +23,7 @@ QString MarketDate(const service::MarketSummary& market) {
 StatusLine::StatusLine(const QString& user, const QString& server, QWidget* parent)
     : QStatusBar(parent),
       server_(server),
-      market_(new GivingLabel(this)),
+      market_(new ElidedLabel(this)),
       date_(AddLabel("dateLine")),
       user_(AddLabel("userLine")),
       service_(AddLabel("serviceLine")) {
@@ -55,8 +37,7 @@ StatusLine::StatusLine(const QString& user, const QString& server, QWidget* pare
 
 void StatusLine::ShowMarket(const service::MarketSummary& market) {
     summary_ = market;
-    market_->setText(MarketLine(market));
-    market_->setToolTip(market_->text());
+    market_->ShowText(MarketLine(market));
     date_->setText(MarketDate(market));
 }
 

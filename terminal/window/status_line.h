@@ -7,6 +7,7 @@
 #include <QStatusBar>
 
 #include "server/service/service.h"
+#include "terminal/look/elided_label.h"
 
 namespace jogeon::terminal {
 
@@ -29,7 +30,7 @@ private:
 
     const QString server_;
     service::MarketSummary summary_;
-    QLabel* const market_;
+    ElidedLabel* const market_;
     QLabel* const date_;
     QLabel* const user_;
     QLabel* const service_;

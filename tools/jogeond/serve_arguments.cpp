@@ -13,12 +13,11 @@ constexpr OptionSpec kOptions[] = {{"--market"}, {"--store"}, {"--home"}, {"--li
 const char kServeHelp[] =
     R"(Usage: jogeond serve [option]...
 
-Serves a market and the users' condition sets to the terminals of this machine, which are started with
-"jogeon --server ADDRESS". It ends at Ctrl-C or SIGTERM.
+Serves a market and what the users keep, condition sets and interest groups and holdings, to the terminals of
+this machine, which are started with "jogeon --server ADDRESS". It ends at Ctrl-C or SIGTERM.
 
   --market FILE    the market file to serve; without it, a generated market
-  --store FILE     the file of the users' condition sets; without it, that of the home, or of the terminal's
-                   own home
+  --store FILE     the file of what the users keep; without it, that of the home, or of the terminal's own home
   --home DIR       the terminal's home folder
   --listen ADDRESS where to listen (127.0.0.1:50150). Port 0 takes one that is free. Loopback only until
                    accounts exist: a terminal says who its user is, and nothing proves it.

@@ -155,8 +155,8 @@ TEST_F(WatchScreenTest, WatchesWhatIsHandedOverOnceAndSaysThatItIsAReplay) {
     EXPECT_EQ(service_.counted.opened, 1) << "opened with the tag and told of it: one hand-over";
     EXPECT_EQ(Text("watchDay"), "재생: 2026-03-06");
     EXPECT_EQ(Screen().Title(), "실시간 조건검색 · 재생: 2026-03-06");
-    EXPECT_EQ(Part<ElidedLabel>("watchName").Whole(), "비싼 종목");
-    EXPECT_EQ(Part<ElidedLabel>("watchDescription").Whole(), "현재가 1,000원 이상");
+    EXPECT_EQ(Part<ElidedLabel>("watchName").text(), "비싼 종목");
+    EXPECT_EQ(Part<ElidedLabel>("watchDescription").text(), "현재가 1,000원 이상");
     EXPECT_EQ(Matches().model()->rowCount(), 9) << "all but the one at 800 won and the one without a bar";
     EXPECT_EQ(Events().model()->rowCount(), 9);
     EXPECT_EQ(Text("watchCounts"), "포착 9종목  ·  편입 9  ·  이탈 0  ·  체결 10건");
