@@ -25,6 +25,12 @@ constexpr int kReorder = 22017, kImport = 22018, kTarget = 21026, kHelp = 21037;
 constexpr int kPanel = 21002, kExpression = 21089, kSettings = 21051, kLayout = 21133, kCodeList = 21164;
 constexpr int kScope = 21098, kSequential = 3;
 
+void TypeExpression(Studio& studio, const QString& text) {
+    auto& box = studio.At<QPlainTextEdit>(kExpression);
+    box.selectAll();
+    QTest::keyClicks(&box, text);
+}
+
 QPixmap Opened(Studio& studio) {
     studio.OpenSet(Studio::kSet);
     return studio.Frame().grab();
@@ -58,9 +64,7 @@ QPixmap Expression(Studio& studio) {
         return false;
     });
     studio.Press(kHelp);
-    auto& box = studio.At<QPlainTextEdit>(kExpression);
-    box.selectAll();
-    QTest::keyClicks(&box, "A and (B or");
+    TypeExpression(studio, "A and (B or");
     studio.Search();
     return SideBySide(dialogs, 2);
 }
@@ -107,7 +111,14 @@ QPixmap Boxes(Studio& studio) {
     studio.Add("RSI");
     studio.Press(Studio::kNew);
     studio.OnBoxes(nullptr);
-    return SideBySide(boxes, 2);
+    studio.Add("RSI");
+    TypeExpression(studio, "A and !A");
+    studio.OnDialogs([&](QDialog& notice) {
+        boxes.append(Framed(notice.grab()));
+        return false;
+    });
+    studio.Search();
+    return SideBySide(boxes, 3);
 }
 
 QPixmap SequenceMarks(Studio& studio) {
