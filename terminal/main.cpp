@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <exception>
 
+#include "screen/host/message_boxes_qt.h"
+#include "screen/text/cp949.h"
 #include "terminal/demonstration.h"
 #include "terminal/look/application_look.h"
 #include "terminal/options.h"
@@ -15,6 +17,14 @@ namespace {
 using namespace jogeon::terminal;
 
 constexpr int kFailure = 2;
+
+// Printed, and in a box for a desktop user, who doesn't see that.
+void TellFailure(const Options& options, const char* why) {
+    std::fprintf(stderr, "jogeon: %s\n", why);
+    if (!options.demonstrate.isEmpty() || QGuiApplication::platformName() == "offscreen") return;
+    QWidget nobody;
+    jogeon::host::MessageBoxes(nobody).Ask({jogeon::ToCp949(why), "jogeon", jogeon::host::Icon::Warning});
+}
 
 int Start(const Options& options) {
     Terminal terminal(options);
@@ -44,7 +54,7 @@ int main(int argc, char** argv) {
     try {
         return Start(*options);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "jogeon: %s\n", error.what());
+        TellFailure(*options, error.what());
         return kFailure;
     }
 }

@@ -22,6 +22,7 @@ MainWindow::MainWindow(const QString& user, const QString& server, const service
     : foot_(*new StatusLine(user, server, this)) {
     setWindowTitle(tr("jogeon - [0150] 조건검색"));
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
+    setContextMenuPolicy(Qt::NoContextMenu);  // its own would show docks that have no screen
     setCentralWidget(&bed_);
     setStatusBar(&foot_);
     bed_.Lay(frame_);
@@ -43,7 +44,7 @@ void MainWindow::GiveRoom(QDockWidget& dock, const QSize& wanted, const QRect& b
     const QSize both = frame_.minimumSize() + Chrome() + RoomOf(dock, dock.minimumSizeHint());
     if (beside ? both.width() > Desktop().width() : both.height() > Desktop().height()) {
         dock.setFloating(true);
-        dock.resize(wanted.boundedTo(Desktop().size()));
+        dock.setGeometry(PlacedWhole(dock.pos(), wanted, Desktop()));
         MindDocks();
         if (Resizable()) setGeometry(before);
         return;

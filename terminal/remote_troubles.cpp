@@ -24,11 +24,6 @@ QString SentenceOf(remote::Trouble::Kind kind) {
 void RemoteTroubles::Tell(const remote::Trouble& trouble) {
     std::fprintf(stderr, "jogeon: %s\n", trouble.line.c_str());
     emit Told(SentenceOf(trouble.kind));
-    if (trouble.kind != remote::Trouble::Kind::Failed) emit Lost();
-}
-
-void RemoteTroubles::TellRecovery() {
-    emit Recovered();
 }
 
 }  // namespace jogeon::terminal

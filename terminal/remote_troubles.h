@@ -16,7 +16,8 @@ class RemoteTroubles : public QObject {
 
 public:
     void Tell(const remote::Trouble& trouble);
-    void TellRecovery();
+    void TellLoss() { emit Lost(); }
+    void TellRecovery() { emit Recovered(); }
 
 signals:
     void Told(const QString& sentence);

@@ -1,6 +1,7 @@
 #include "terminal/service_watch.h"
 
 #include <exception>
+#include <utility>
 
 namespace jogeon::terminal {
 namespace {
@@ -8,7 +9,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kAskTimer = 1;
-constexpr auto kAskEvery = 3s;
+constexpr auto kAskUsually = 30s;
+constexpr auto kAskWhenLost = 3s;
 
 std::optional<service::MarketSummary> MarketOf(service::Service& service) {
     try {
@@ -27,9 +29,14 @@ ServiceWatch::~ServiceWatch() {
     clock_.Forget(*this);
 }
 
+void ServiceWatch::Begin() {
+    clock_.SetTimer(*this, kAskTimer, kAskUsually);
+}
+
 void ServiceWatch::OnLost() {
+    lost_ = true;
     line_.ShowConnected(false);
-    clock_.SetTimer(*this, kAskTimer, kAskEvery);
+    clock_.SetTimer(*this, kAskTimer, kAskWhenLost);
 }
 
 void ServiceWatch::OnRecovered() {
@@ -51,9 +58,11 @@ void ServiceWatch::Ask() {
 void ServiceWatch::Take(const std::optional<service::MarketSummary>& market) {
     asking_ = false;
     if (!market) return OnLost();
-    clock_.KillTimer(*this, kAskTimer);
+    Begin();
+    const bool renewed = std::exchange(lost_, false) || *market != line_.Market();
     line_.ShowMarket(*market);
     line_.ShowConnected(true);
+    if (renewed) emit Renewed();
 }
 
 }  // namespace jogeon::terminal

@@ -1,7 +1,7 @@
 // Keeps the line at the foot true about the server: whether it answers, and which market it has now.
 //
-// After a failure it asks the server again and again until it answers; whenever it answers anew, its market
-// may be another.
+// It asks the server now and then, which may have been started anew between two questions of the screens;
+// after a failure soon and again until it answers.
 #pragma once
 
 #include <QObject>
@@ -20,10 +20,17 @@ public:
     ServiceWatch(const Workplace& workplace, host::Clock& clock, StatusLine& line);
     ~ServiceWatch() override;
 
+    // Asks from here on. Without it only what is told is minded.
+    void Begin();
+
     void OnLost();
     void OnRecovered();
 
     void OnTimer(int id) override;
+
+signals:
+    // The server answers again, or has another market: what it said before may not be so any more.
+    void Renewed();
 
 private:
     void Ask();
@@ -33,6 +40,7 @@ private:
     host::Clock& clock_;
     StatusLine& line_;
     bool asking_ = false;
+    bool lost_ = false;
 };
 
 }  // namespace jogeon::terminal

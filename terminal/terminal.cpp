@@ -12,6 +12,7 @@
 #include "server/service/local_service.h"
 #include "terminal/host/parting.h"
 #include "terminal/interest/interest_screen.h"
+#include "terminal/kept_bytes.h"
 #include "terminal/trace.h"
 #include "terminal/window/help_window.h"
 #include "terminal/window/key_table.h"
@@ -48,6 +49,7 @@ std::unique_ptr<service::Service> ChooseService(const Options& options, const Ho
                                                 RemoteTroubles& troubles) {
     if (options.server.isEmpty()) return StartService(options, home);
     remote::RemoteSettings settings;
+    settings.lost = [&troubles] { troubles.TellLoss(); };
     settings.recovered = [&troubles] { troubles.TellRecovery(); };
     return std::make_unique<remote::RemoteService>(
         options.server.toStdString(), [&troubles](const remote::Trouble& trouble) { troubles.Tell(trouble); },
@@ -112,6 +114,7 @@ Terminal::Terminal(const Options& options, std::vector<ScreenKind> screens, host
     if (!window_.Frame().Open(module_)) throw ModuleError("screen 0150 could not be created");
     RestoreWindow();
     WireState();
+    if (!options.server.isEmpty()) watch_.Begin();
 }
 
 // The screens' last messages still find every service.
@@ -148,6 +151,7 @@ void Terminal::WireTroubles() {
     QObject::connect(&troubles_, &RemoteTroubles::Told, &foot, &StatusLine::ShowRemark);
     QObject::connect(&troubles_, &RemoteTroubles::Lost, &watch_, &ServiceWatch::OnLost);
     QObject::connect(&troubles_, &RemoteTroubles::Recovered, &watch_, &ServiceWatch::OnRecovered);
+    QObject::connect(&watch_, &ServiceWatch::Renewed, desk_.get(), &ScreenDesk::OnServiceRenewed);
     QObject::connect(desk_.get(), &ScreenDesk::Remark, &foot, &StatusLine::ShowRemark);
 }
 
@@ -177,7 +181,7 @@ void Terminal::WireMenu() {
 
 void Terminal::RestoreWindow() {
     if (!state_.Kept()) return;
-    window_.restoreGeometry(state_.Kept()->value(kGeometry).toByteArray());
+    window_.restoreGeometry(KeptBytes(*state_.Kept(), kGeometry));
     desk_->Restore();
 }
 
@@ -185,7 +189,7 @@ void Terminal::WireState() {
     QObject::connect(&window_, &MainWindow::Moved, &state_, &UserState::SaveSoon);
     QObject::connect(&window_, &MainWindow::Closing, &state_, &UserState::Save);
     QObject::connect(&state_, &UserState::Saving, &window_, [this](QSettings& file) {
-        file.setValue(kGeometry, window_.saveGeometry());
+        KeepBytes(file, kGeometry, window_.saveGeometry());
         desk_->Save(file);
     });
 }

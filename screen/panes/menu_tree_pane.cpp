@@ -57,8 +57,9 @@ void CMenuTreeView::WireControls() {
     for (QTreeWidget* view : {&form_.tree, static_cast<QTreeWidget*>(&form_.list)}) {
         connect(view, &QTreeWidget::itemClicked, this,
                 [this](QTreeWidgetItem* shown) { OnClick(NodeOf(*shown)); });
-        connect(view, &QTreeWidget::itemDoubleClicked, this,
-                [this](QTreeWidgetItem* shown) { OnDoubleClick(NodeOf(*shown)); });
+        connect(view, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* shown) {
+            if (shown) OnDoubleClick(NodeOf(*shown));  // none beside the columns
+        });
         view->installEventFilter(this);
     }
 }

@@ -105,7 +105,9 @@ std::optional<Trouble> RemoteService::Connection::Judge(const grpc::Status& stat
         return std::nullopt;
     }
     lastTrouble_ = Clock::now();
-    return TroubleOf(status, address, deadline);
+    const Trouble trouble = TroubleOf(status, address, deadline);
+    if (trouble.kind != Trouble::Kind::Failed && settings.lost) settings.lost();
+    return trouble;
 }
 
 }  // namespace jogeon::remote

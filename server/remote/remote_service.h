@@ -39,7 +39,9 @@ struct RemoteSettings {
     // For the calls that a user interface makes on its own thread.
     std::chrono::milliseconds callDeadline{5'000};
     int protocol = kProtocol;
-    // Hears of the first call that succeeds after one that failed, on the thread that made it. May be empty.
+    // Hear of each call that the server didn't answer or didn't understand, thrown or not, and of the first
+    // that succeeds after one that failed; on the thread that made it. May be empty.
+    std::function<void()> lost;
     std::function<void()> recovered;
 };
 

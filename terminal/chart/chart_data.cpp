@@ -38,6 +38,12 @@ void ChartData::ForgetDays() {
     SetDays(std::nullopt);
 }
 
+void ChartData::Outdate() {
+    bars_.Forget();
+    days_.Forget();
+    stocks_.Forget();
+}
+
 void ChartData::SetDays(const std::optional<std::vector<int>>& days) {
     if (days == known_) return;
     known_ = days;

@@ -33,6 +33,9 @@ public:
 
     void AskStocks() { stocks_.Ask({}); }
 
+    // What is asked from here on is asked though it is known.
+    void Outdate();
+
 signals:
     void BarsCame(const std::optional<service::StockBars>& stock);  // none: the market doesn't have it
     void BarsFailed();

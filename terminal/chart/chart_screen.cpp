@@ -66,6 +66,12 @@ void ChartScreen::OnTagChanged(const std::string& mainKey, const std::string& ta
     if (mainKey == kStockKey && tag == kStockTag) FollowLink();
 }
 
+void ChartScreen::OnServiceRenewed() {
+    data_.Outdate();
+    data_.AskStocks();
+    if (!code_.empty()) ShowStock(code_);
+}
+
 void ChartScreen::OnThemeChanged() {
     bar_->Restyle();
     view_->Restyle();

@@ -26,6 +26,7 @@ public:
     QString Title() const override;
     void OnOpened(bool linked) override;
     void OnTagChanged(const std::string& mainKey, const std::string& tag) override;
+    void OnServiceRenewed() override;
     void OnThemeChanged() override;
     void SaveState(QSettings& settings) const override;
     void RestoreState(const QSettings& settings) override;

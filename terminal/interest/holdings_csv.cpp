@@ -77,17 +77,18 @@ std::optional<double> Number(std::string_view text) {
     return plain ? market::ParseNumber(*plain) : std::nullopt;
 }
 
+bool BeginsUtf16(std::string_view file) {
+    return file.starts_with("\xff\xfe") || file.starts_with("\xfe\xff");
+}
+
 class HoldingsReader {
 public:
     HoldingsReader(const std::filesystem::path& path, const StockIndex& stocks)
         : lines_(path), stocks_(stocks) {}
 
     HoldingsFile Read() {
-        if (!FindHeader()) {
-            file_.fault = FileFault::NoHeader;
-            return std::move(file_);
-        }
-        while (NextLine())
+        file_.fault = FindHeader();
+        while (file_.fault == FileFault::None && NextLine())
             if (!IsEmpty()) ReadLine();
         return std::move(file_);
     }
@@ -113,17 +114,18 @@ private:
         return true;
     }
 
-    bool FindHeader() {
+    FileFault FindHeader() {
         while (lines_.Number() < kHeaderWithin) {
             const std::optional<std::string_view> line = lines_.Next();
-            if (!line) return false;
+            if (!line) break;
+            if (lines_.Number() == 1 && BeginsUtf16(*line)) return FileFault::Utf16;
             for (char separator : kSeparators) {
                 separator_ = separator;
                 TakeApart(*line);
-                if (whole_ && IsHeader()) return true;
+                if (whole_ && IsHeader()) return FileFault::None;
             }
         }
-        return false;
+        return FileFault::NoHeader;
     }
 
     bool IsHeader() {

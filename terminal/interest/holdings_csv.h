@@ -28,7 +28,12 @@ struct RefusedLine {
     std::string text;  // UTF-8: the field, or what there is of the line
 };
 
-enum class FileFault { None, Unreadable, NoHeader };
+enum class FileFault {
+    None,
+    Unreadable,
+    Utf16,  // what spreadsheets call Unicode text
+    NoHeader,
+};
 
 struct HoldingsFile {
     FileFault fault = FileFault::None;

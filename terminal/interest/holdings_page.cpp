@@ -145,6 +145,11 @@ void HoldingsPage::Import() {
     if (file.fault == FileFault::Unreadable)
         return Tell(questions_, tr("파일을 읽을 수 없습니다.\n%1").arg(QString::fromStdString(file.detail)),
                     import_->text(), host::Icon::Warning);
+    if (file.fault == FileFault::Utf16)
+        return Tell(questions_,
+                    tr("유니코드(UTF-16) 파일은 읽을 수 없습니다.\nCSV UTF-8 형식으로 저장한 뒤 다시 "
+                       "가져오십시오."),
+                    import_->text(), host::Icon::Warning);
     if (file.fault == FileFault::NoHeader)
         return Tell(questions_,
                     tr("잔고 파일의 제목 줄을 찾을 수 없습니다.\n'종목코드'나 '종목명', 그리고 '수량' 항목이 "

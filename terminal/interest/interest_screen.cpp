@@ -5,6 +5,7 @@
 
 #include "screen/text/cp949_qt.h"
 #include "terminal/interest/portfolio_texts.h"
+#include "terminal/kept_bytes.h"
 #include "terminal/look/list_look.h"
 #include "terminal/screens/stock_link.h"
 
@@ -61,6 +62,10 @@ void InterestScreen::OnOpened(bool) {
     book_.Refresh();
 }
 
+void InterestScreen::OnServiceRenewed() {
+    book_.Renew();
+}
+
 void InterestScreen::OnThemeChanged() {
     setPalette(ListPalette());
     setAutoFillBackground(true);
@@ -71,13 +76,13 @@ void InterestScreen::OnThemeChanged() {
 void InterestScreen::SaveState(QSettings& settings) const {
     settings.setValue(kPageKey, pages_->currentIndex());
     settings.setValue(kGroupKey, QString::fromStdString(groups_->Chosen()));
-    settings.setValue(kSplitterKey, groups_->SplitterState());
+    KeepBytes(settings, kSplitterKey, groups_->SplitterState());
 }
 
 void InterestScreen::RestoreState(const QSettings& settings) {
     pages_->setCurrentIndex(settings.value(kPageKey, 0).toInt());
     groups_->Choose(settings.value(kGroupKey).toString().toStdString());
-    groups_->RestoreSplitter(settings.value(kSplitterKey).toByteArray());
+    groups_->RestoreSplitter(KeptBytes(settings, kSplitterKey));
 }
 
 void InterestScreen::ShowGroup(const std::string& code) {

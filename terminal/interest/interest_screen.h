@@ -26,6 +26,7 @@ public:
     QString Title() const override { return tr("관심그룹"); }
     void OnOpened(bool linked) override;
     void OnTagChanged(const std::string&, const std::string&) override {}
+    void OnServiceRenewed() override;
     void OnThemeChanged() override;
     void SaveState(QSettings& settings) const override;
     void RestoreState(const QSettings& settings) override;

@@ -73,6 +73,11 @@ void PortfolioBook::Refresh() {
     if (!waits) Queue({});
 }
 
+void PortfolioBook::Renew() {
+    outdated_ = true;
+    Refresh();
+}
+
 void PortfolioBook::Do(Command command, Done done) {
     Queue({std::move(command), std::move(done)});
 }
@@ -99,15 +104,18 @@ void PortfolioBook::StartNext() {
     underWay_ = InBackground(
         workplace_, *this,
         [&portfolios = workplace_.service.GetPortfolios(), user = workplace_.user, command = task.command,
-         wantStocks = stocks_.All().empty(),
-         known = quotes_] { return Ask(portfolios, user, command, wantStocks, known); },
+         anew = outdated_, wantStocks = outdated_ || stocks_.All().empty(),
+         known = outdated_ ? Quotes() : quotes_] {
+            Answer answer = Ask(portfolios, user, command, wantStocks, known);
+            answer.anew = anew;
+            return answer;
+        },
         [this, done = task.done](const Answer& answer) { Take(answer, done); });
 }
 
 // On a thread of the workplace.
 PortfolioBook::Answer PortfolioBook::Ask(service::Portfolios& portfolios, const std::string& user,
-                                         const Command& command, bool wantStocks,
-                                         const std::map<std::string, service::Quote>& known) {
+                                         const Command& command, bool wantStocks, const Quotes& known) {
     Answer answer;
     try {
         if (command) answer.addition = command(portfolios, user);
@@ -130,6 +138,10 @@ void PortfolioBook::Take(const Answer& answer, const Done& done) {
     groups_ = answer.groups;
     accounts_ = answer.accounts;
     if (answer.stocks) stocks_ = StockIndex(*answer.stocks);
+    if (answer.anew) {
+        quotes_.clear();
+        outdated_ = false;
+    }
     for (const service::Quote& quote : answer.quotes) quotes_[quote.code] = quote;
     loaded_ = true;
     StartNext();

@@ -47,6 +47,9 @@ public:
     // Reads everything anew.
     void Refresh();
 
+    // The same, with names and prices, which are else taken to stay as they were read once.
+    void Renew();
+
     // A change, made on another thread: it touches nothing but what it is given. Add's code goes on to
     // `done`.
     using Command =
@@ -68,6 +71,8 @@ signals:
     void Failed(const QString& why);
 
 private:
+    using Quotes = std::map<std::string, service::Quote>;
+
     struct Task {
         Command command;  // empty to read only
         Done done;
@@ -76,13 +81,14 @@ private:
         service::Addition addition;
         std::vector<service::InterestGroup> groups;
         std::vector<service::HeldAccount> accounts;
+        bool anew = false;                                       // no stock and no quote was taken as known
         std::optional<std::vector<service::StockEntry>> stocks;  // the first time
         std::vector<service::Quote> quotes;                      // of stocks that had none yet
         std::string failure;                                     // empty for none
     };
 
     static Answer Ask(service::Portfolios& portfolios, const std::string& user, const Command& command,
-                      bool wantStocks, const std::map<std::string, service::Quote>& known);
+                      bool wantStocks, const Quotes& known);
     void Queue(Task task);
     void StartNext();
     void Take(const Answer& answer, const Done& done);
@@ -92,10 +98,11 @@ private:
     QFuture<Answer> underWay_;  // the task before them
     bool working_ = false;
     bool loaded_ = false;
+    bool outdated_ = false;  // stocks and quotes
     std::vector<service::InterestGroup> groups_;
     std::vector<service::HeldAccount> accounts_;
     StockIndex stocks_;
-    std::map<std::string, service::Quote> quotes_;
+    Quotes quotes_;
 };
 
 }  // namespace jogeon::terminal

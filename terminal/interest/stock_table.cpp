@@ -5,7 +5,9 @@
 #include <QHeaderView>
 #include <QItemSelection>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "screen/palette/colors_qt.h"
@@ -67,6 +69,23 @@ StockTable::StockTable(std::vector<StockColumn> columns, QWidget* parent)
             [this](const QModelIndex& at) { emit StockChosen(CodeAt(at)); });
     connect(this, &QTableView::doubleClicked, this,
             [this](const QModelIndex& at) { emit StockOpened(CodeAt(at)); });
+}
+
+QSize StockTable::sizeHint() const {
+    const auto& all = model_->Columns();
+    const int places = std::accumulate(all.begin(), all.end(), 0,
+                                       [](int sum, const StockColumn& column) { return sum + column.width; });
+    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {places * fontMetrics().horizontalAdvance(QLatin1Char('0')) + around,
+            QTableView::sizeHint().height()};
+}
+
+// A header takes back nothing from a stretched column when there is no room left for it.
+void StockTable::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    QHeaderView& header = *horizontalHeader();
+    const int others = header.length() - header.sectionSize(0);
+    if (others >= viewport()->width()) header.resizeSection(0, header.minimumSectionSize());
 }
 
 void StockTable::SetRows(std::vector<StockRow> rows) {

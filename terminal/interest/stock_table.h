@@ -70,6 +70,9 @@ public:
 
     void RefreshColors();
 
+    // As wide as the columns were meant to be.
+    QSize sizeHint() const override;
+
 signals:
     void StockChosen(const std::string& code);
     void StockOpened(const std::string& code);
@@ -78,6 +81,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     const std::string& CodeAt(const QModelIndex& index) const;

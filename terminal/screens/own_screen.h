@@ -26,6 +26,9 @@ public:
     // Another screen has changed a shared tag.
     virtual void OnTagChanged(const std::string& mainKey, const std::string& tag) = 0;
 
+    // The service was away, or has another market: what it said before may not be so any more.
+    virtual void OnServiceRenewed() {}
+
     // The colours of screen/palette are others now.
     virtual void OnThemeChanged() {}
 

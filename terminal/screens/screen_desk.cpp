@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "terminal/kept_bytes.h"
 #include "terminal/screens/stock_link.h"
 
 namespace jogeon::terminal {
@@ -126,6 +127,10 @@ void ScreenDesk::OnThemeChanged() {
     for (const ScreenDock* dock : OpenDocks()) dock->Screen()->OnThemeChanged();
 }
 
+void ScreenDesk::OnServiceRenewed() {
+    for (const ScreenDock* dock : OpenDocks()) dock->Screen()->OnServiceRenewed();
+}
+
 void ScreenDesk::Save(QSettings& file) const {
     QStringList open;
     for (const ScreenDock* dock : OpenDocks()) {
@@ -133,7 +138,7 @@ void ScreenDesk::Save(QSettings& file) const {
         SaveScreen(*dock, file);
     }
     file.setValue(kOpenScreens, open);
-    file.setValue(kPlaces, window_.saveState(kPlacesForm));
+    KeepBytes(file, kPlaces, window_.saveState(kPlacesForm));
 }
 
 void ScreenDesk::Restore() {
@@ -143,7 +148,7 @@ void ScreenDesk::Restore() {
     for (ScreenDock* dock : docks_) {
         if (open.contains(dock->Number())) Fill(*dock);
     }
-    const bool known = window_.restoreState(file->value(kPlaces).toByteArray(), kPlacesForm);
+    const bool known = window_.restoreState(KeptBytes(*file, kPlaces), kPlacesForm);
     if (!known && !OpenDocks().isEmpty()) ResetPlaces();
     for (ScreenDock* dock : docks_) dock->setVisible(dock->Screen() != nullptr);
     window_.MindDocks();

@@ -49,6 +49,7 @@ public:
     QList<ScreenLine> Known() const;
     QList<ScreenLine> OpenOnes() const;
 
+    void OnServiceRenewed();
     void OnThemeChanged();
 
     // Writes which screens are open, where, and what each keeps; opens them so again.

@@ -252,11 +252,11 @@
     <name>jogeon::terminal::EventModel</name>
     <message>
         <source>편입</source>
-        <translation>Entered</translation>
+        <translation>In</translation>
     </message>
     <message>
         <source>이탈</source>
-        <translation>Left</translation>
+        <translation>Out</translation>
     </message>
     <message>
         <source>시각</source>
@@ -608,6 +608,12 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
         <source>계좌 %1의 보유종목을 모두 지우고 계좌를 삭제하시겠습니까?</source>
         <translation>Delete account %1 and all its holdings?</translation>
     </message>
+    <message>
+        <source>유니코드(UTF-16) 파일은 읽을 수 없습니다.
+CSV UTF-8 형식으로 저장한 뒤 다시 가져오십시오.</source>
+        <translation>A UTF-16 file can't be read.
+Save it as CSV UTF-8 and import that.</translation>
+    </message>
 </context>
 <context>
     <name>jogeon::terminal::InterestDialog</name>
@@ -955,7 +961,7 @@ It needs a &apos;code&apos; or &apos;name&apos; column, and a &apos;quantity&apo
     </message>
     <message>
         <source>편입시각</source>
-        <translation>Entered at</translation>
+        <translation>Since</translation>
     </message>
     <message>
         <source>충족 조건</source>

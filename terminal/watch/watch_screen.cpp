@@ -6,6 +6,7 @@
 #include "screen/host/shared_tags.h"
 #include "screen/text/cp949_qt.h"
 #include "screen/transactions/condition_header.h"
+#include "terminal/kept_bytes.h"
 #include "terminal/screens/stock_link.h"
 #include "terminal/texts/value_texts.h"
 #include "terminal/watch/watch_texts.h"
@@ -191,17 +192,17 @@ void WatchScreen::OnThemeChanged() {
 
 void WatchScreen::SaveState(QSettings& file) const {
     file.setValue(kSpeedKey, head_->Speed());
-    file.setValue(kMatchColumnsKey, matchTable_->horizontalHeader()->saveState());
-    file.setValue(kEventColumnsKey, eventTable_->horizontalHeader()->saveState());
-    file.setValue(kSplitKey, split_->saveState());
+    KeepBytes(file, kMatchColumnsKey, matchTable_->horizontalHeader()->saveState());
+    KeepBytes(file, kEventColumnsKey, eventTable_->horizontalHeader()->saveState());
+    KeepBytes(file, kSplitKey, split_->saveState());
 }
 
 void WatchScreen::RestoreState(const QSettings& file) {
     head_->SetSpeed(file.value(kSpeedKey).toInt());
     run_.SetSpeed(head_->Speed());
-    matchTable_->horizontalHeader()->restoreState(file.value(kMatchColumnsKey).toByteArray());
-    eventTable_->horizontalHeader()->restoreState(file.value(kEventColumnsKey).toByteArray());
-    split_->restoreState(file.value(kSplitKey).toByteArray());
+    matchTable_->horizontalHeader()->restoreState(KeptBytes(file, kMatchColumnsKey));
+    eventTable_->horizontalHeader()->restoreState(KeptBytes(file, kEventColumnsKey));
+    split_->restoreState(KeptBytes(file, kSplitKey));
 }
 
 }  // namespace jogeon::terminal

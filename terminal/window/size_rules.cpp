@@ -30,4 +30,12 @@ QRect Grown(const QRect& window, const QSize& extra, const QRect& desktop) {
     return {across.start, down.start, across.length, down.length};
 }
 
+QRect PlacedWhole(const QPoint& corner, const QSize& size, const QRect& desktop) {
+    const QSize fits = size.boundedTo(desktop.size());
+    const QSize left = desktop.size() - fits;
+    return {{std::clamp(corner.x(), desktop.x(), desktop.x() + left.width()),
+             std::clamp(corner.y(), desktop.y(), desktop.y() + left.height())},
+            fits};
+}
+
 }  // namespace jogeon::terminal

@@ -2,6 +2,7 @@
 #include "terminal/screens/screen_desk.h"
 
 #include <QMenuBar>
+#include <QScreen>
 #include <QStyle>
 
 #include <gmock/gmock.h>
@@ -107,6 +108,12 @@ TEST_F(ScreenDeskTest, KeysAndMenuOpenScreensAndCloseThem) {
     EXPECT_TRUE(Dock("0156").isHidden());
 }
 
+TEST_F(ScreenDeskTest, ARightClickOnTheWindowOffersNoDockWithoutAScreen) {
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(300, 5), Window().mapToGlobal(QPoint(300, 5)));
+    QApplication::sendEvent(Window().menuWidget(), &click);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(ScreenDeskTest, DocksGetTheRoomAndScreen0150WhatItAskedFor) {
     Send(host::kOpenScreen, "0615");
     QApplication::processEvents();
@@ -164,6 +171,7 @@ TEST_F(ScreenDeskTest, AScreenThatFitsBesideNothingFloatsAndResettingBringsDocks
     EXPECT_TRUE(Dock("0130").isFloating());
     QApplication::processEvents();
     EXPECT_EQ(Window().width(), kWide);
+    EXPECT_TRUE(Window().screen()->availableGeometry().contains(Dock("0130").geometry()));
 }
 
 }  // namespace

@@ -25,5 +25,12 @@ TEST(SizeRulesTest, AWindowGrowsOnItsDesktopOnly) {
     for (const Case& c : cases) EXPECT_EQ(Grown(c.window, c.extra, desktop), c.grown) << c.what;
 }
 
+TEST(SizeRulesTest, ANewWindowLiesOnItsDesktopAsAWhole) {
+    const QRect desktop(0, 30, 1000, 700);
+    EXPECT_EQ(PlacedWhole({100, 50}, {400, 300}, desktop), QRect(100, 50, 400, 300));
+    EXPECT_EQ(PlacedWhole({900, 600}, {400, 300}, desktop), QRect(600, 430, 400, 300));
+    EXPECT_EQ(PlacedWhole({2000, -90}, {1400, 300}, desktop), QRect(0, 30, 1000, 300));
+}
+
 }  // namespace
 }  // namespace jogeon::terminal

@@ -20,6 +20,7 @@
 #include "server/remote/remote_service.h"
 #include "server/remote/service_server.h"
 #include "server/service/local_service.h"
+#include "terminal/chart/chart_view.h"
 #include "terminal/demonstration.h"
 #include "tests/terminal/support/desk.h"
 #include "tests/terminal/support/terminal_fixture.h"
@@ -232,6 +233,22 @@ TEST_F(ServedTerminalTest, FootTellsThatTheServerIsGoneAndWhichMarketItComesBack
     EXPECT_EQ("2024-01-02 기준", foot("dateLine"));
     terminal_.reset();
     server_.reset();
+}
+
+TEST_F(ServedTerminalTest, AChartThatFailedIsTheFootsMatterTooAndComesWithTheServer) {
+    Serve();
+    Open();
+    const std::string code = service_.GetPortfolios().Stocks().front().code;
+    terminal_->SharedLinks().NVLink_SetLinkTagData({"ReturnMainKey", "JCODE", code});
+    const int port = server_->Port();
+    server_.reset();
+    terminal_->Desk().Open("0615", true);
+    const auto* line = terminal_->Window().findChild<QLabel*>("serviceLine");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return line->text().endsWith("연결 끊김"); }, kPatience));
+    Serve(port);
+    const auto* chart = terminal_->Window().findChild<chart::ChartView*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart->Shown().code.toStdString() == code; }, kPatience))
+        << "though nobody asked for it again";
 }
 
 // Answers no request until it may.

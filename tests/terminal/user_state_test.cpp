@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include "terminal/kept_bytes.h"
 #include "tests/screen/support/recorders.h"
 #include "tests/terminal/support/live_terminal.h"
 
@@ -123,6 +124,28 @@ TEST_F(UserStateTest, ChangesAreWrittenAMomentLaterHoweverManyThereAre) {
     EXPECT_EQ(saved, 2);
     EXPECT_EQ(QSettings(file, QSettings::IniFormat).value("some/thing").toInt(), 2);
     EXPECT_FALSE(clock.Runs(1));
+}
+
+TEST_F(UserStateTest, BytesForQtComeBackWholeOrNotAtAll) {
+    Open();
+    QSettings file(folder_.filePath("bytes.ini"), QSettings::IniFormat);
+    KeepBytes(file, "places", Window().saveState());
+    KeepBytes(file, "nothing", QByteArray());
+    const QByteArray written = file.value("places").toByteArray();
+    file.sync();
+    const QSettings reopened(file.fileName(), QSettings::IniFormat);
+    EXPECT_EQ(KeptBytes(reopened, "places"), Window().saveState());
+    EXPECT_EQ(KeptBytes(reopened, "nothing"), QByteArray());
+    EXPECT_EQ(KeptBytes(reopened, "missing"), QByteArray());
+
+    for (qsizetype at = 0; at < written.size(); ++at) {
+        QByteArray damaged = written;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x40);
+        for (const QByteArray& broken : {damaged, written.first(at)}) {
+            file.setValue("places", broken);
+            EXPECT_EQ(KeptBytes(file, "places"), QByteArray()) << at;
+        }
+    }
 }
 
 }  // namespace

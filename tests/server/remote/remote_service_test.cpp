@@ -234,14 +234,17 @@ public:
 
 TEST_F(RemoteServiceTest, RecoveryIsToldOnceWhenACallSucceedsAgain) {
     RemoteSettings settings;
-    int recovered = 0;
+    int lost = 0, recovered = 0;
+    settings.lost = [&lost] { ++lost; };
     settings.recovered = [&recovered] { ++recovered; };
     const auto remote = Connect(settings);
     remote->Handle(Search());
     EXPECT_EQ(recovered, 0) << "nothing had failed";
     const int port = server->Port();
     server.reset();
+    EXPECT_EQ(lost, 0);
     EXPECT_THROW(remote->Market(), RemoteError);
+    EXPECT_EQ(lost, 1) << "thrown or not";
     server.emplace(local, port);
     const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (remote->Handle(Search()).empty() && std::chrono::steady_clock::now() < until)

@@ -23,6 +23,7 @@ std::string Read(const std::string& bytes) {
     const market::ScratchFolder folder;
     const HoldingsFile file = ReadHoldings(folder.Write("holdings.csv", bytes), Stocks());
     if (file.fault == FileFault::NoHeader) return "no header";
+    if (file.fault == FileFault::Utf16) return "utf-16";
     std::vector<std::string> parts;
     for (const service::Holding& held : file.holdings)
         parts.push_back(held.stock + " " + std::to_string(held.quantity) + " " +
@@ -94,6 +95,7 @@ TEST(HoldingsCsvTest, EachBadLineIsNamedWithItsReason) {
 TEST(HoldingsCsvTest, WhatIsNoTableOfHoldingsIsSaid) {
     for (const char* bytes : {"", "code,price\n005930,1\n", "quantity\n1\n", "\x01\x02\xff\n"})
         EXPECT_EQ(Read(bytes), "no header") << bytes;
+    EXPECT_EQ(Read(std::string("\xff\xfe\x54\xcf\xdc\xb4\t\0", 8)), "utf-16") << "as Unicode text is saved";
     EXPECT_EQ(ReadHoldings("/nowhere/holdings.csv", Stocks()).fault, FileFault::Unreadable);
 }
 

@@ -8,6 +8,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMimeData>
 #include <QTemporaryDir>
 
@@ -97,6 +98,18 @@ TEST_F(InterestScreenTest, ShowsGroupsAndStocksWithTheirLastDay) {
     ClickGroup(2);
     EXPECT_EQ(Row("stocks", 0), "바반도체|100020|800|▲ 10|+1.27%");
     EXPECT_EQ(place_.links.NVLink_GetAccountCount(), 2) << "for screens that choose an account";
+}
+
+TEST_F(InterestScreenTest, PricesAreSeenAtTheFirstSizeAndNoNamePushesThemOutOfALesserOne) {
+    const auto& table = Get<QTableView>("stocks");
+    screen_.resize(screen_.sizeHint());
+    QApplication::processEvents();
+    EXPECT_LE(table.horizontalHeader()->length(), table.viewport()->width());
+    for (const int width : {1200, 500}) {
+        screen_.resize(width, 420);
+        QApplication::processEvents();
+    }
+    EXPECT_LT(table.columnWidth(0), table.viewport()->width() / 2);
 }
 
 TEST_F(InterestScreenTest, GroupsAreMadeNamedMovedAndDeleted) {

@@ -1,6 +1,7 @@
 // The book of a window, and what other books and its own end do to its changes.
 #include "terminal/interest/portfolio_book.h"
 
+#include <cmath>
 #include <future>
 
 #include <gtest/gtest.h>
@@ -52,6 +53,59 @@ TEST_F(PortfolioBookTest, WhatTwoBooksAddAtTheSameMomentIsBothIn) {
     added.set_value();
     ASSERT_TRUE(QTest::qWaitFor([&] { return one.Idle(); }, InterestPlace::kPatience));
     EXPECT_EQ(one.FindGroup("501")->stocks, (Codes{"000010", "000030", "000020"}));
+}
+
+// A service that was started anew with the next day's market.
+class RestartedService : public service::LocalService {
+public:
+    RestartedService()
+        : LocalService(test::TestMarket(), nullptr), next_(NextDay(), store::PortfolioStore::kInMemory) {}
+    service::Portfolios& GetPortfolios() override {
+        return restarted ? next_ : LocalService::GetPortfolios();
+    }
+
+    bool restarted = false;
+
+private:
+    static std::shared_ptr<const market::Market> NextDay() {
+        market::MarketBuilder builder;
+        market::Instrument stock;
+        stock.code = "000010";
+        stock.name = "새이름";
+        builder.AddBar(builder.AddInstrument(stock), 20260309, 1'000, 1'000, 1'000, 1'000, 1);
+        return builder.Build();
+    }
+
+    service::LocalPortfolios next_;
+};
+
+TEST(RenewedBookTest, NamesAndPricesAreThoseOfTheMarketThatTheServiceHasNow) {
+    RestartedService service;
+    Links links("kim01", HomeFolder{}, {});
+    test::ScriptedQuestions questions;
+    QThreadPool workers;
+    PortfolioBook book({"kim01", service, links, questions, workers});
+    const auto waits = [&book] {
+        return QTest::qWaitFor([&] { return book.Idle(); }, InterestPlace::kPatience);
+    };
+    for (const bool restarted : {true, false}) {
+        service.restarted = restarted;
+        service.GetPortfolios().EditStocks("kim01", "501", [](Codes& stocks) {
+            stocks = {"000010", "000020"};
+        });
+    }
+    book.Refresh();
+    ASSERT_TRUE(waits());
+    EXPECT_EQ(book.QuoteOf("000010")->close, 50'000);
+    EXPECT_NE(book.QuoteOf("000020"), nullptr);
+
+    service.restarted = true;
+    book.Renew();
+    ASSERT_TRUE(waits());
+    EXPECT_EQ(book.QuoteOf("000010")->close, 1'000);
+    EXPECT_EQ(ToUtf8(book.NameOf("000010")), "새이름");
+    const service::Quote* gone = book.QuoteOf("000020");
+    EXPECT_TRUE(!gone || std::isnan(gone->close));
 }
 
 }  // namespace
