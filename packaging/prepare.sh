@@ -2,7 +2,7 @@
 
 RUN_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev zlib1g-dev libsqlite3-dev libgrpc++-dev libprotobuf-dev
     protobuf-compiler protobuf-compiler-grpc libxlsxwriter-dev qt6-tools-dev
-    qt6-l10n-tools libc-bin fonts-nanum)
+    qt6-l10n-tools qt6-translations-l10n libc-bin fonts-nanum)
 TEST_PACKAGES=(libgtest-dev libgmock-dev clang-format python3)
 
 say() { printf '\033[1m==> %s\033[0m\n' "$*" >&2; }

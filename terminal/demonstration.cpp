@@ -58,7 +58,7 @@ void PrintRows(const QList<QStringList>& rows) {
 int Demonstrate(Terminal& terminal, const QString& set, const QString& picture) {
     MainWindow& window = terminal.Window();
     window.show();
-    QApplication::processEvents();
+    if (!WaitForAnswers(terminal)) return Fail("the search service does not answer");  // the user's own sets
     ScreenDriver screen(window);
     const QStringList sets = screen.SetNames();
     const QString name = set.isEmpty() ? sets.value(0) : set;

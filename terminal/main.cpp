@@ -1,15 +1,15 @@
 // The desktop terminal.
 #include <QApplication>
-#include <QTimer>
 #include <cstdio>
 #include <exception>
+#include <optional>
 
 #include "screen/host/message_boxes_qt.h"
 #include "screen/text/cp949.h"
 #include "terminal/demonstration.h"
 #include "terminal/look/application_look.h"
 #include "terminal/options.h"
-#include "terminal/screen_driver.h"
+#include "terminal/set_opener.h"
 #include "terminal/terminal.h"
 
 namespace {
@@ -30,9 +30,8 @@ int Start(const Options& options) {
     Terminal terminal(options);
     if (!options.demonstrate.isEmpty()) return Demonstrate(terminal, options.openSet, options.demonstrate);
     terminal.Window().show();
-    if (!options.openSet.isEmpty() && !ScreenDriver(terminal.Window()).OpenSet(options.openSet)) {
-        std::fprintf(stderr, "jogeon: no condition set '%s'\n", options.openSet.toUtf8().constData());
-    }
+    std::optional<SetOpener> opener;
+    if (!options.openSet.isEmpty()) opener.emplace(terminal, options.openSet);
     return QApplication::exec();
 }
 

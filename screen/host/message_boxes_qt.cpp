@@ -54,10 +54,10 @@ Answer MessageBoxes::Ask(const Box& box) {
     shown.setWindowTitle(ToQString(box.caption));
     shown.setIcon(IconOf(box.icon));
     shown.setStandardButtons(ButtonsOf(box.buttons));
-    for (const auto& [button, text] : {std::pair(QMessageBox::Ok, "확인"),
-                                       {QMessageBox::Yes, "예"},
-                                       {QMessageBox::No, "아니오"},
-                                       {QMessageBox::Cancel, "취소"}}) {
+    for (const auto& [button, text] : {std::pair(QMessageBox::Ok, tr("확인")),
+                                       {QMessageBox::Yes, tr("예")},
+                                       {QMessageBox::No, tr("아니오")},
+                                       {QMessageBox::Cancel, tr("취소")}}) {
         if (QAbstractButton* existing = shown.button(button)) existing->setText(text);
     }
     return AnswerOf(shown.exec());

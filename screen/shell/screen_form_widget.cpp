@@ -81,7 +81,13 @@ void ScreenForm::Place(QWidget& window, int placeId, int id) {
 void ScreenForm::OrderTabs() {
     std::vector<QWidget*> stops;
     for (const auto& [id, control] : controls_) {
-        if (control->focusPolicy() & Qt::TabFocus) stops.push_back(control);
+        // One that hands the focus on is a stop itself: elsewhere in the chain it would lead back to its
+        // part.
+        const bool isStop = control->focusPolicy() & Qt::TabFocus || control->focusProxy();
+        if (isStop) {
+            stops.push_back(control);
+            continue;
+        }
         for (QWidget* part : control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
             const bool ownStop = control->focusPolicy() == Qt::NoFocus && part->focusPolicy() & Qt::TabFocus;
             if (ownStop) stops.push_back(part);

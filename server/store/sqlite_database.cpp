@@ -60,6 +60,11 @@ bool Database::IsReadOnly() const {
     return sqlite3_db_readonly(Handle(), "main") == 1;
 }
 
+bool Database::IsGone() const {
+    int moved = 0;
+    return sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
+}
+
 void Database::RollBack() noexcept {
     if (!sqlite3_get_autocommit(Handle())) sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
@@ -133,6 +138,7 @@ void Execution::Check(int code) const {
 }
 
 Transaction::Transaction(Database& database, Kind kind) : database_(database) {
+    if (kind == Kind::Write && database.IsGone()) database.Fail("was deleted or replaced while in use");
     database.Run(kind == Kind::Write ? "BEGIN IMMEDIATE" : "BEGIN");
 }
 

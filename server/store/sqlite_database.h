@@ -33,6 +33,10 @@ public:
 
     bool IsReadOnly() const;
 
+    // Whether the file has been deleted since it was opened, or another one has taken its place: what is
+    // written then nobody finds again.
+    bool IsGone() const;
+
     // Undoes the transaction that is open, if one is.
     void RollBack() noexcept;
 
@@ -109,7 +113,7 @@ class Transaction {
 public:
     enum class Kind {
         Read,   // sees one state of the file
-        Write,  // the only one that writes, from the start
+        Write,  // the only one that writes, from the start; not to a file that is gone
     };
 
     Transaction(Database& database, Kind kind);

@@ -32,6 +32,8 @@ struct Axis {
     std::function<QString(double)> text;
 };
 
+constexpr double kLeastLowerStep = 0.1;  // with one decimal, finer lines would all have one name
+
 QString LowerText(double value) {
     return NumberText(value, value == std::floor(value) ? 0 : 1);
 }
@@ -41,7 +43,7 @@ std::vector<Axis> AxesOf(const Scene& scene) {
     std::vector<Axis> axes{{scene.panes.price, scene.price, kLinesApart, 1, PriceText},
                            {scene.panes.volume, scene.volume, kLinesApartBelow, 1, volumeText}};
     if (scene.content.study.kind != Lower::None)
-        axes.push_back({scene.panes.lowerCurves, scene.lower, kLinesApartBelow, 0, LowerText});
+        axes.push_back({scene.panes.lowerCurves, scene.lower, kLinesApartBelow, kLeastLowerStep, LowerText});
     return axes;
 }
 

@@ -12,8 +12,10 @@ void BarWindow::SetBars(int count) {
 }
 
 void BarWindow::SetWidth(double pixels) {
+    const bool atNewest = first_ >= NewestFirst();
     const double end = first_ + Visible();
     width_ = std::max(1.0, pixels);
+    if (atNewest) return ToNewest();
     first_ = end - Visible();
     Clamp();
 }

@@ -4,6 +4,8 @@
 // never moves further from the right edge than a little room.
 #pragma once
 
+#include <algorithm>
+
 namespace jogeon::terminal::chart {
 
 class BarWindow {
@@ -11,7 +13,7 @@ public:
     static constexpr double kFirstBarWidth = 8;  // pixels, the gap to the next bar included
     static constexpr double kWidthOfFew = 24;    // the least where all bars fit in side by side
     static constexpr double kMostBarWidth = 64;
-    static constexpr double kRoom = 1.5;  // bars that stay free right of the newest
+    static constexpr double kRoom = 1.5;  // bars that stay free right of the newest, where that is in view
 
     // Other bars: the newest in view, the bars as wide as last zoomed to if that can be.
     void SetBars(int count);
@@ -47,7 +49,7 @@ public:
 
 private:
     double Visible() const { return width_ / barWidth_; }
-    double NewestFirst() const { return bars_ + kRoom - Visible(); }
+    double NewestFirst() const { return bars_ + std::clamp(Visible() - 1, 0.0, kRoom) - Visible(); }
     void Clamp();
 
     int bars_ = 0;

@@ -15,8 +15,8 @@ ChartScreen::ChartScreen(const Workplace& workplace, QWidget* parent)
     : OwnScreen(parent),
       links_(workplace.links),
       data_(workplace),
-      bar_(new ChartBar(this)),
-      view_(new chart::ChartView(this)) {
+      view_(new chart::ChartView(this)),
+      bar_(new ChartBar(this)) {
     SetUp();
     Wire();
     TakeResult();

@@ -57,8 +57,8 @@ private:
 
     Links& links_;
     chart::ChartData data_;
+    chart::ChartView* const view_;  // made first: the Tab key reaches the screen by it, then goes to the bar
     chart::ChartBar* const bar_;
-    chart::ChartView* const view_;
     StockIndex stocks_;  // that the trader can name
     chart::PublishedResult result_;
     chart::Choice choice_;

@@ -3,7 +3,7 @@
 #include <QDateTime>
 #include <utility>
 
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/sheet/sheet_text.h"
 #include "terminal/sheet/xlsx_writer.h"
 
@@ -31,7 +31,7 @@ void XlsxExport::Save(const host::Sheet& sheet, const std::vector<host::SheetNot
     all.push_back({"저장 시각"_cp949, Written(now, "yyyy-MM-dd HH:mm:ss")});
     all.push_back({"사용자"_cp949, origin.user});
     const std::string failure = WriteXlsx(sheet, all, *path);
-    if (!failure.empty()) questions_.Ask({failure, "엑셀 저장"_cp949, host::Icon::Warning});
+    if (!failure.empty()) questions_.Ask({failure, FromQString(tr("엑셀 저장")), host::Icon::Warning});
 }
 
 }  // namespace jogeon::terminal

@@ -3,6 +3,7 @@
 // Relies on the questions of the host for the file's name and for telling what fails.
 #pragma once
 
+#include <QCoreApplication>
 #include <functional>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ struct SheetOrigin {
 };
 
 class XlsxExport : public host::SheetExport {
+    Q_DECLARE_TR_FUNCTIONS(jogeon::terminal::XlsxExport)
+
 public:
     // `questions` outlives this object; `origin` is asked at each saving.
     XlsxExport(host::Questions& questions, std::function<SheetOrigin()> origin);

@@ -1,5 +1,6 @@
 #include "terminal/sheet/xlsx_writer.h"
 
+#include <QCoreApplication>
 #include <fstream>
 #include <memory>
 #include <optional>
@@ -10,7 +11,7 @@
 #include <xlsxwriter.h>
 
 #include "screen/files/atomic_file.h"
-#include "screen/text/cp949.h"
+#include "screen/text/cp949_qt.h"
 #include "terminal/sheet/xlsx_book.h"
 #include "terminal/sheet/xlsx_package.h"
 
@@ -18,6 +19,10 @@ namespace jogeon::terminal {
 namespace {
 
 namespace fs = std::filesystem;
+
+struct XlsxWriter {
+    Q_DECLARE_TR_FUNCTIONS(XlsxWriter)
+};
 
 // A folder of the library's own among the temporary files, gone with everything in it at the end.
 class ScratchFolder {
@@ -69,12 +74,14 @@ std::string WriteXlsx(const host::Sheet& sheet, const std::vector<host::SheetNot
                       const fs::path& path) {
     const std::optional<std::string> package = MakePackage(sheet, notes);
     if (!package) {
-        return "엑셀 파일을 만들지 못했습니다.\n임시 폴더에 빈 공간이 있는지 확인해 주십시오."_cp949;
+        return FromQString(
+            XlsxWriter::tr("엑셀 파일을 만들지 못했습니다.\n임시 폴더에 빈 공간이 있는지 확인해 주십시오."));
     }
     if (!WriteFileAtomically(path, *package)) {
-        const std::u8string name = path.u8string();
-        return "파일에 저장하지 못했습니다.\n쓰기 권한과 디스크의 빈 공간을 확인해 주십시오.\n\n"_cp949 +
-               ToCp949({reinterpret_cast<const char*>(name.data()), name.size()});
+        return FromQString(
+            XlsxWriter::tr(
+                "파일에 저장하지 못했습니다.\n쓰기 권한과 디스크의 빈 공간을 확인해 주십시오.\n\n%1")
+                .arg(QString::fromStdU16String(path.u16string())));
     }
     return {};
 }

@@ -121,6 +121,44 @@
     </message>
 </context>
 <context>
+    <name>XlsxWriter</name>
+    <message>
+        <source>엑셀 파일을 만들지 못했습니다.
+임시 폴더에 빈 공간이 있는지 확인해 주십시오.</source>
+        <translation>The Excel file could not be made.
+Please check that the temporary folder has free space.</translation>
+    </message>
+    <message>
+        <source>파일에 저장하지 못했습니다.
+쓰기 권한과 디스크의 빈 공간을 확인해 주십시오.
+
+%1</source>
+        <translation>The file could not be saved.
+Please check its permissions and the free space on the disk.
+
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>jogeon::host::MessageBoxes</name>
+    <message>
+        <source>확인</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>예</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>아니오</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>취소</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>jogeon::terminal::ChartScreen</name>
     <message>
         <source>차트</source>
@@ -1165,6 +1203,13 @@ and press [실시간 검색] to watch it here.</translation>
     <message>
         <source>%1 해제</source>
         <translation>%1 unmet</translation>
+    </message>
+</context>
+<context>
+    <name>jogeon::terminal::XlsxExport</name>
+    <message>
+        <source>엑셀 저장</source>
+        <translation>Save to Excel</translation>
     </message>
 </context>
 <context>

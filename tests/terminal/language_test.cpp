@@ -37,9 +37,10 @@ TEST(TranslationTest, EveryTextOfTheTerminalHasItsEnglish) {
     QTemporaryDir folder;
     const QString fresh = folder.filePath("jogeon_en.ts");
     QProcess lupdate;
-    lupdate.start(JOGEON_LUPDATE, {"-silent", "-no-obsolete", "-source-language", "ko", "-target-language",
-                                   "en", "-I", JOGEON_SOURCES, QString(JOGEON_SOURCES) + "/terminal",
-                                   "-extensions", "cpp,h", "-ts", fresh});
+    lupdate.start(JOGEON_LUPDATE,
+                  {"-silent", "-no-obsolete", "-source-language", "ko", "-target-language", "en", "-I",
+                   JOGEON_SOURCES, QString(JOGEON_SOURCES) + "/terminal",
+                   QString(JOGEON_SOURCES) + "/screen/host", "-extensions", "cpp,h", "-ts", fresh});
     ASSERT_TRUE(lupdate.waitForFinished(kPatience));
     const auto texts = TextsOf(kept);
     const auto used = TextsOf(fresh);

@@ -174,6 +174,9 @@ TEST_F(ComposingTest, TabGoesThroughTheScreenRowByRow) {
         backwards += places[i].y() < places[i - 1].y() - 4 ? 1 : 0;
     EXPECT_LE(backwards, 2) << "only the columns of the panel's fields and its buttons go up again";
     EXPECT_EQ(&host.Control<QWidget>(21104), stop);
+    stop->setFocus();
+    QTest::keyClick(stop, Qt::Key_Tab);
+    EXPECT_NE(&host.Control<QWidget>(16129), host.Screen().window()->focusWidget()) << "not back to the list";
 }
 
 // No window is active here, so that the keys themselves don't arrive: what stands behind them is tried.

@@ -187,6 +187,17 @@ TEST(StoreFileTest, ADamagedPageIsFoundWhenTheFileIsOpened) {
         << Refusal(folder / "sets");
 }
 
+TEST(StoreFileTest, NothingIsWrittenToAFileThatIsGone) {
+    const ScratchFolder folder;
+    ConditionStore(folder / "backup").Add("kim", "000.000", "old");
+    ConditionStore store(folder / "sets");
+    store.Add("kim", "000.000", "a");
+    std::filesystem::rename(folder / "backup", folder / "sets");
+    EXPECT_THROW(store.Add("kim", "000.001", "b"), StoreError);
+    std::filesystem::remove(folder / "sets");
+    EXPECT_THROW(store.Remove("kim", "000.001", 0), StoreError);
+}
+
 // Runs `work` in a process of its own.
 pid_t Fork(const std::function<void()>& work) {
     const pid_t child = fork();

@@ -71,6 +71,16 @@ TEST(BarWindowTest, NeverLeavesTheBars) {
     EXPECT_DOUBLE_EQ(window.BarWidth(), BarWindow::kFirstBarWidth) << "few bars leave no trace";
 }
 
+TEST(BarWindowTest, ShowsTheNewestBarWhereThereIsHardlyRoomForIt) {
+    for (const double width : {1.0, 30.0, 100.0}) {
+        BarWindow window;
+        window.SetWidth(width);
+        window.SetBars(1000);
+        window.ZoomAtEnd(1e6);
+        EXPECT_EQ(window.BarAt(width - 0.1), 999) << width;
+    }
+}
+
 TEST(BarWindowTest, KeepsTheRightEdgeWhenItsWidthChanges) {
     BarWindow window;
     window.SetWidth(800);

@@ -289,6 +289,15 @@ TEST_F(ChartScreenTest, AFrameSaysThatItHasTheFocus) {
     }
 }
 
+TEST_F(ChartScreenTest, TheTabKeyComesToTheChartAndThenToItsBar) {
+    std::vector<QWidget*> stops;
+    for (QWidget* at = screen_.nextInFocusChain(); at != &screen_; at = at->nextInFocusChain())
+        if (at->focusPolicy() & Qt::TabFocus) stops.push_back(at);
+    ASSERT_GE(stops.size(), 2u);
+    EXPECT_EQ(view_, stops[0]);
+    EXPECT_EQ(&Find<QLineEdit>("stock"), stops[1]);
+}
+
 TEST_F(ChartScreenTest, LegendTellsOfTheBarUnderThePointer) {
     Link(test::kPausing);
     const auto texts = [&](int bar) {
