@@ -119,7 +119,7 @@ void CMenuTreeView::RefreshColors() {
 // --- picks
 
 TreeItem& CMenuTreeView::NodeOf(QTreeWidgetItem& shown) const {
-    return form_.ListShown() ? FlatList::NodeOf(shown) : static_cast<TreeItem&>(shown);
+    return shown.treeWidget() == &form_.list ? FlatList::NodeOf(shown) : static_cast<TreeItem&>(shown);
 }
 
 void CMenuTreeView::OnClick(const TreeItem& node) {

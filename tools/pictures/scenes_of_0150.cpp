@@ -21,7 +21,7 @@ constexpr char kPlainSet[] = "골든크로스와 거래량 증가";  // has no b
 constexpr double kLayoutScale = 0.6;
 
 // Controls of screen 0150.
-constexpr int kReorder = 22017, kImport = 22018, kTarget = 21026, kHelp = 21037;
+constexpr int kReset = 21047, kReorder = 22017, kImport = 22018, kTarget = 21026, kHelp = 21037;
 constexpr int kPanel = 21002, kExpression = 21089, kSettings = 21051, kLayout = 21133, kCodeList = 21164;
 constexpr int kScope = 21098, kSequential = 3;
 
@@ -43,6 +43,7 @@ QPixmap Searched(Studio& studio) {
 
 QPixmap Composed(Studio& studio) {
     studio.Press(Studio::kNew);
+    studio.Press(kReset);
     for (const char* indicator : {"RSI", "주가와 이동평균", "PER"}) studio.Add(indicator);
     return studio.Frame().grab();
 }
